@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <limits>
+
+// The ring of 14 slots: 0..5 the human's pots (green, lower row, A at the left),
+// 6 the human's bank, 7..12 the computer's pots (red, upper row, slot 7 at the right),
+// 13 the computer's bank. Sowing runs up the slot numbers and wraps from 13 to 0.
+
+constexpr int SlotCount = 14;
+constexpr int16_t HumanBank = 6;
+constexpr int16_t ComputerBank = 13;
+constexpr int16_t NoSlot = -1;
+
+using Board = std::array<int16_t, SlotCount>;
+
+constexpr bool IsSlot(int s)
+{
+    return s >= 0 && s < SlotCount;
+}
+constexpr bool IsHumanPot(int s)
+{
+    return s >= 0 && s <= 5;
+}
+constexpr bool IsComputerPot(int s)
+{
+    return s >= 7 && s <= 12;
+}
+constexpr bool IsBank(int s)
+{
+    return s == HumanBank || s == ComputerBank;
+}
+
+// 0 faces 12, 1 faces 11 ... 5 faces 7. Gives 6 for the human bank and -1 for the
+// computer's: callers rule out the banks first.
+constexpr int Opposite(int s)
+{
+    return 12 - s;
+}
+
+// Counts are 16-bit; the sums we form saturate rather than wrap, so a board that
+// could never arise in play still cannot turn a count negative.
+constexpr int16_t ClampCount(int v)
+{
+    if (v > std::numeric_limits<int16_t>::max())
+        return std::numeric_limits<int16_t>::max();
+    if (v < std::numeric_limits<int16_t>::min())
+        return std::numeric_limits<int16_t>::min();
+    return static_cast<int16_t>(v);
+}
+
+// Colours of the log, 0x00BBGGRR.
+constexpr int32_t Rgb(int r, int g, int b)
+{
+    return r | (g << 8) | (b << 16);
+}
+constexpr int32_t HumanGreen = Rgb(0, 128, 0);
+constexpr int32_t ComputerRed = Rgb(128, 0, 0);
+constexpr int32_t HintBlack = Rgb(0, 0, 0);

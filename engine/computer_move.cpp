@@ -1,0 +1,123 @@
+#include "engine/game.h"
+
+#include "engine/number_text.h"
+
+#include <algorithm>
+
+// One move of its own, one reply of the other row: the difference of the banks
+// after trying the pot, less the greatest capture the other row could then make.
+// The try-out runs on the real board and is put back from SavedBeads.
+int Game::EvaluatePot(int16_t Pot)
+{
+    SowPot(Pot);
+    if (CaptureHolds()) {
+        CreditCapture();
+        ClearCapturedPots();
+    }
+
+    int threat = 0;
+    for (int k = 0; k <= 5; ++k) {
+        if (Beads[k] < 1)
+            continue;
+        int landing = k + Beads[k];
+        // One mark for any number of laps; the scan does not sow, so a lap that would
+        // fill its own landing slot still counts as landing in an empty pot.
+        int lap = 0;
+        if (landing > 13) {
+            landing %= SlotCount;
+            lap = 1;
+        }
+        int value = lap;
+        if (Beads[landing] == 0 && !IsBank(landing))
+            value = Beads[Opposite(landing)] + lap;
+        threat = std::max(threat, value);
+    }
+
+    const int score = Beads[ComputerBank] - Beads[HumanBank] - threat;
+    Beads = SavedBeads;
+    return score;
+}
+
+void Game::ComputerMove()
+{
+    for (;;) {
+        MoverBank = ComputerBank;
+        SavedBeads = Beads;
+        // Greater-or-equal: of equal scores the last pot tried wins, the one nearest
+        // the own bank. Starting below any score means a hopeless position still
+        // plays its best pot rather than none.
+        bool found = false;
+        int best = 0;
+        for (int16_t p = 7; p <= 12; ++p) {
+            if (Beads[p] < 1)
+                continue;
+            const int score = EvaluatePot(p);
+            if (!found || score >= best) {
+                best = score;
+                ChosenPot = p;
+                found = true;
+            }
+        }
+        CurrentPot = ChosenPot;
+        if (!found) {
+            // Only after an extra move that spent the own row: nothing to sow.
+            CheckRows();
+            if (HintActive)
+                ShowHintPass();
+            return;
+        }
+        PlayChosenPot();
+        if (CurrentPot != MoverBank)
+            return;
+        std::string again = "Last entry into the bank; move again";
+        if (HintActive)
+            again = "HINT: " + again;
+        ListMove(MoveSide(), again);
+    }
+}
+
+// A forced turn plays the human's row and narrates in green; a hint in black.
+int16_t Game::MoveSide() const
+{
+    if (HintActive)
+        return SideHint;
+    return BoardMirrored ? SideHuman : SideComputer;
+}
+
+void Game::PlayChosenPot()
+{
+    const int16_t side = MoveSide();
+    const std::string prefix = HintActive ? "HINT: " : "";
+    std::string move =
+        prefix + "Move " + StrCount(Beads[CurrentPot]) + " from " + PotLetter(CurrentPot);
+    // Only the "Move" line of a forced turn says who played it.
+    if (BoardMirrored && !HintActive)
+        move += " - computer played";
+    if (Beads[CurrentPot] != 0)
+        ListMove(side, move);
+    SowPot(CurrentPot);
+    if (CaptureHolds()) {
+        const int16_t taken = CreditCapture();
+        ListMove(side, prefix + "Last pot " + PotLetter(CurrentPot) +
+                           " is empty:" + NumberText(taken) + " taken");
+        ClearCapturedPots();
+    }
+    CheckRows();
+    if (HintActive)
+        ShowHintPass();
+}
+
+// After each pass of a hint: the board as the advice leaves it, and the hand over
+// the letter of the first advised pot.
+void Game::ShowHintPass()
+{
+    UpdateBoard();
+    if (HintPot == 0)
+        HintPot = ChosenPot;
+    if (!IsComputerPot(ChosenPot) || screen_.HandVisible())
+        return;
+    const int16_t letter = static_cast<int16_t>(ChosenPot - 7);
+    screen_.SetHandLeft(screen_.PotNameLeft(letter));
+    screen_.SetHandTop(screen_.PotNameTop(letter));
+    screen_.SetHandVisible(true);
+}

@@ -1,0 +1,58 @@
+#include "engine/game.h"
+
+#include "engine/number_text.h"
+
+#include <cstdio>
+
+void Game::ListMove(int16_t Side, const std::string& Text)
+{
+    if (Text.empty())
+        return;
+    const std::string key = NumberText(Side) + Text;
+    if (key == LastEntryKey)
+        return;
+    // Of a run of hint lines only the first is listed: the further passes of a hint,
+    // and a second hint before anything else was listed, are dropped.
+    if (Text.starts_with("HINT") && LastEntryKey.find("HINT") != std::string::npos)
+        return;
+
+    if (Side == SideHint) {
+        LogLine(Text, HintBlack);
+    } else {
+        EntryNumber = ClampCount(EntryNumber + 1);
+        char number[16];
+        std::snprintf(number, sizeof number, "#%03d>", static_cast<int>(EntryNumber));
+        const std::string entry = number + Text;
+        if (Side != SideComputer) {
+            LogLine(entry, HumanGreen);
+        } else {
+            if (PauseAtMoves)
+                Pause(Text);
+            screen_.SetMessEnabled(false);
+            screen_.SetCommandFrameEnabled(true);
+            // A paused step reaches the list after the click, not before.
+            LogLine(entry, ComputerRed);
+        }
+    }
+    LastEntryKey = key;
+}
+
+// Holds a step of the computer's move on the message bar until Mess is clicked.
+// Other handlers run inside this loop; the commands that could start a second move
+// are shut away in CommandFrame meanwhile.
+void Game::Pause(const std::string& Text)
+{
+    screen_.SetMessCaption("Computer move> " + Text + "; click to continue");
+    WaitingForClick = 1;
+    screen_.SetMessEnabled(true);
+    screen_.SetCommandFrameEnabled(false);
+    while (WaitingForClick != 0)
+        screen_.DoEvents();
+}
+
+void Game::LogLine(std::string s, int32_t color)
+{
+    int16_t ipic = -1;
+    std::string font;
+    screen_.MovesList_Additem(s, -1, ipic, font, color);
+}

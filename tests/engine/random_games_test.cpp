@@ -1,0 +1,71 @@
+#include "game_fixture.h"
+#include "reference_rules.h"
+
+#include <numeric>
+#include <random>
+
+// Whole games with random picks, undos, forced turns and hints, checked after every
+// action against the plain reading of the rules and the board's invariants.
+TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
+{
+    std::mt19937 random(1234);
+    RecordingScreen screen;
+    Game game(screen);
+    screen.game = &game;
+    game.Form_Load();
+
+    for (int g = 0; g < 300; ++g) {
+        const int start = 2 + static_cast<int>(random() % 12);
+        game.StartBeadCount = static_cast<int16_t>(start);
+        game.LayOutBoard(game.StartBeadCount);
+        game.UpdateBoard();
+        game.PauseAtMoves = random() % 2 == 0;
+        ref::Ring expected{};
+        std::copy(game.Beads.begin(), game.Beads.end(), expected.begin());
+        int lowBank = 0, highBank = 0;
+
+        for (int action = 0; !game.GameFinished; ++action) {
+            ASSERT_LT(action, 2000) << "game " << g << " never ended";
+            const int kind = static_cast<int>(random() % 20);
+            if (kind == 0) {
+                game.GiveHint_MouseDown(1, 0, 0, 0);
+                game.GiveHint_MouseUp(1, 0, 0, 0);
+            } else if (kind == 1 && screen.undoxEnabled) {
+                game.Undox_Click();
+                std::copy(game.Beads.begin(), game.Beads.end(), expected.begin());
+                lowBank = expected[6];
+                highBank = expected[13];
+            } else if (kind == 2) {
+                game.TakeComp_Click();
+                expected = ref::Turned(expected);
+                ref::ComputerTurn(expected);
+                expected = ref::Turned(expected);
+                if (ref::Live(expected))
+                    ref::ComputerTurn(expected);
+            } else {
+                const int16_t pot = static_cast<int16_t>(random() % 6);
+                if (expected[pot] == 0)
+                    continue;
+                game.Pots_MouseUp(pot, 1, 0, 0, 0);
+                const int last = ref::Sow(expected, pot);
+                ref::Capture(expected, last, 6);
+                if (ref::Live(expected) && last != 6)
+                    ref::ComputerTurn(expected);
+            }
+            for (int s = 0; s < SlotCount; ++s)
+                ASSERT_EQ(game.Beads[s], expected[s]) << "game " << g << " slot " << s;
+            ASSERT_EQ(std::accumulate(game.Beads.begin(), game.Beads.end(), 0), 12 * start);
+            for (int16_t count : game.Beads)
+                ASSERT_GE(count, 0);
+            ASSERT_GE(game.Beads[6], lowBank);
+            ASSERT_GE(game.Beads[13], highBank);
+            lowBank = game.Beads[6];
+            highBank = game.Beads[13];
+            ASSERT_FALSE(game.BoardMirrored);
+            ASSERT_FALSE(game.HintActive);
+            ASSERT_EQ(game.WaitingForClick, 0);
+        }
+        ASSERT_EQ(ref::Live(expected), false);
+        game.Mess_Click();
+    }
+}

@@ -1,0 +1,106 @@
+#pragma once
+
+// A second, deliberately plain reading of the rules, one bead at a time, in ints.
+// The engine is checked against it; it shares no code with the engine.
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace ref {
+
+using Ring = std::array<int, 14>;
+
+inline int Sow(Ring& b, int pot)
+{
+    int n = b[pot];
+    b[pot] = 0;
+    int at = pot;
+    while (n-- > 0) {
+        at = at == 13 ? 0 : at + 1;
+        b[at] += 1;
+    }
+    return at;
+}
+
+// Returns the beads taken from the opposite pot, or -1 when nothing is captured.
+inline int Capture(Ring& b, int last, int bank)
+{
+    if (last == 6 || last == 13 || b[last] != 1 || b[12 - last] == 0)
+        return -1;
+    const int taken = b[12 - last];
+    b[bank] += taken + 1;
+    b[last] = 0;
+    b[12 - last] = 0;
+    return taken;
+}
+
+inline bool Live(const Ring& b)
+{
+    bool low = false, high = false;
+    for (int s = 0; s < 6; ++s)
+        low = low || b[s] > 0;
+    for (int s = 7; s < 13; ++s)
+        high = high || b[s] > 0;
+    return low && high;
+}
+
+inline int Score(Ring b, int pot)
+{
+    const int last = Sow(b, pot);
+    Capture(b, last, 13);
+    int g = 0;
+    for (int k = 0; k < 6; ++k) {
+        if (b[k] == 0)
+            continue;
+        int l = k + b[k], w = 0;
+        while (l > 13) {
+            l -= 14;
+            w = 1;
+        }
+        const int v = (b[l] == 0 && l != 6 && l != 13) ? b[12 - l] + w : w;
+        if (v > g)
+            g = v;
+    }
+    return b[13] - b[6] - g;
+}
+
+// The pot the computer plays, or -1 when its row is empty.
+inline int Choose(const Ring& b)
+{
+    int best = 0, chosen = -1;
+    for (int p = 7; p <= 12; ++p) {
+        if (b[p] == 0)
+            continue;
+        const int s = Score(b, p);
+        if (chosen == -1 || s >= best) {
+            best = s;
+            chosen = p;
+        }
+    }
+    return chosen;
+}
+
+// A whole turn for the side in slots 7..13, extra moves included.
+inline void ComputerTurn(Ring& b)
+{
+    for (;;) {
+        const int pot = Choose(b);
+        if (pot < 0)
+            return;
+        const int last = Sow(b, pot);
+        Capture(b, last, 13);
+        if (last != 13)
+            return;
+    }
+}
+
+inline Ring Turned(const Ring& b)
+{
+    Ring t{};
+    for (int s = 0; s < 14; ++s)
+        t[(s + 7) % 14] = b[s];
+    return t;
+}
+
+} // namespace ref
