@@ -1,0 +1,157 @@
+#include "controls/marlet.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Marlets {
+
+namespace {
+
+// The same white on black as the bead-count label under the board.
+QWidget* titleBand(QLabel* title, QToolButton* close)
+{
+    auto* band = new QWidget;
+    band->setAutoFillBackground(true);
+    QPalette colours = band->palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    colours.setColor(QPalette::WindowText, Qt::white);
+    colours.setColor(QPalette::ButtonText, Qt::white);
+    band->setPalette(colours);
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(6, 1, 1, 1);
+    row->addWidget(title, 1);
+    row->addWidget(close);
+    return band;
+}
+
+QFont boldened(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+Marlet::Marlet(QWidget* parent) : QFrame(parent)
+{
+    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    setLineWidth(2);
+    setAutoFillBackground(true);
+
+    m_title = new QLabel;
+    m_title->setObjectName("title");
+    m_title->setFont(boldened(font()));
+    m_close = new QToolButton;
+    m_close->setObjectName("close");
+    m_close->setText("x");
+    m_close->setToolTip("Close");
+    m_close->setAutoRaise(true);
+    // The window never hides the board again once it has shown it: closing is ours.
+    connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
+
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(12, 6, 12, 6);
+    grid->setVerticalSpacing(2);
+    grid->setColumnStretch(0, 1);
+    m_won = addRow(grid, "Games won", "won");
+    m_lost = addRow(grid, "Games lost", "lost");
+    m_drawn = addRow(grid, "Games drawn", "drawn");
+    m_share = addRow(grid, "Share won", "share");
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(lineWidth(), lineWidth(), lineWidth(), lineWidth());
+    column->setSpacing(0);
+    column->addWidget(titleBand(m_title, m_close));
+    column->addLayout(grid);
+    column->addStretch(1);
+    refresh();
+}
+
+Marlet::Row Marlet::addRow(QGridLayout* grid, const QString& name, const char* key)
+{
+    Row row{new QLabel(name), new QLabel};
+    row.value->setObjectName(key);
+    row.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.value->setFont(boldened(row.value->font()));
+    const int at = grid->rowCount();
+    grid->addWidget(row.name, at, 0);
+    grid->addWidget(row.value, at, 1);
+    return row;
+}
+
+void Marlet::showRow(const Row& row, bool shown)
+{
+    row.name->setVisible(shown);
+    row.value->setVisible(shown);
+}
+
+void Marlet::ScoreTitle(const QString& New_ScoreTitle)
+{
+    m_title->setText(New_ScoreTitle);
+}
+
+void Marlet::ScoreOptionA(bool New_ScoreOptionA)
+{
+    m_showShare = New_ScoreOptionA;
+    refresh();
+}
+
+void Marlet::ScoreOptionB(bool New_ScoreOptionB)
+{
+    m_showDrawn = New_ScoreOptionB;
+    refresh();
+}
+
+void Marlet::ScoreWin(bool New_ScoreWin)
+{
+    ++(New_ScoreWin ? m_wins : m_losses);
+    // A game can end under an open board; then the new count shows at once.
+    if (isVisible())
+        refresh();
+}
+
+void Marlet::ScoreDraw(bool New_ScoreDraw)
+{
+    if (!New_ScoreDraw)
+        return;
+    ++m_draws;
+    if (isVisible())
+        refresh();
+}
+
+void Marlet::ScoreShow(bool New_ScoreShow)
+{
+    if (New_ScoreShow)
+        refresh();
+}
+
+void Marlet::ZOrder(int position)
+{
+    if (position == 0)
+        raise();
+    else if (position == 1)
+        lower();
+}
+
+void Marlet::refresh()
+{
+    m_won.value->setText(QString::number(m_wins));
+    m_lost.value->setText(QString::number(m_losses));
+    m_drawn.value->setText(QString::number(m_draws));
+    m_share.value->setText(shareWon());
+    showRow(m_drawn, m_showDrawn);
+    showRow(m_share, m_showShare);
+}
+
+QString Marlet::shareWon() const
+{
+    const int games = m_wins + m_losses + m_draws;
+    if (games == 0)
+        return "-";
+    return QString::number(qRound(100.0 * m_wins / games)) + "%";
+}
+
+} // namespace Marlets

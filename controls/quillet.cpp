@@ -1,0 +1,330 @@
+#include "controls/quillet.h"
+
+#include "controls/twips.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include <algorithm>
+#include <exception>
+
+namespace {
+
+int16_t buttonNumber(Qt::MouseButtons buttons)
+{
+    int16_t number = 0;
+    if (buttons & Qt::LeftButton)
+        number |= 1;
+    if (buttons & Qt::RightButton)
+        number |= 2;
+    if (buttons & Qt::MiddleButton)
+        number |= 4;
+    return number;
+}
+
+int16_t shiftNumber(Qt::KeyboardModifiers modifiers)
+{
+    int16_t number = 0;
+    if (modifiers & Qt::ShiftModifier)
+        number |= 1;
+    if (modifiers & Qt::ControlModifier)
+        number |= 2;
+    if (modifiers & Qt::AltModifier)
+        number |= 4;
+    return number;
+}
+
+float twipsX(const QMouseEvent* event)
+{
+    return Twips::fromPixels(static_cast<float>(event->position().x()));
+}
+
+float twipsY(const QMouseEvent* event)
+{
+    return Twips::fromPixels(static_cast<float>(event->position().y()));
+}
+
+// The part of a picture that is not fully clear, in its own device-independent pixels.
+QRect opaqueBounds(const QPixmap& picture)
+{
+    const QRect whole(QPoint(0, 0), picture.deviceIndependentSize().toSize());
+    if (!picture.hasAlphaChannel())
+        return whole;
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    int left = image.width(), top = image.height(), right = -1, bottom = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) == 0)
+                continue;
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+        }
+    }
+    if (right < 0)
+        return QRect();
+    const qreal ratio = picture.devicePixelRatio();
+    const QRectF device(left, top, right - left + 1, bottom - top + 1);
+    const QRectF logical(device.topLeft() / ratio, device.size() / ratio);
+    return logical.toAlignedRect();
+}
+
+QColor halfway(const QColor& from, const QColor& to)
+{
+    return QColor((from.red() + to.red()) / 2, (from.green() + to.green()) / 2,
+                  (from.blue() + to.blue()) / 2);
+}
+
+} // namespace
+
+Quillet::Quillet(QWidget* parent) : QWidget(parent)
+{
+    // Moves without a button pressed are what the pots' hover look lives on.
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    const QPalette& colours = palette();
+    m_forecolor = colours.color(QPalette::WindowText);
+    m_backcolor = colours.color(QPalette::Button);
+    m_edges[EdgeTop] = colours.color(QPalette::Light);
+    m_edges[EdgeLeft] = colours.color(QPalette::Light);
+    m_edges[EdgeRight] = colours.color(QPalette::Dark);
+    m_edges[EdgeBottom] = colours.color(QPalette::Dark);
+}
+
+void Quillet::caption(const QString& New_caption)
+{
+    if (New_caption == m_caption)
+        return;
+    m_caption = New_caption;
+    update();
+}
+
+bool Quillet::enabled() const
+{
+    // The face's own setting: a disabled frame round it does not change what it holds.
+    return !testAttribute(Qt::WA_ForceDisabled);
+}
+
+void Quillet::enabled(bool New_enabled)
+{
+    setEnabled(New_enabled);
+    update();
+}
+
+void Quillet::picture(const QPixmap& New_picture)
+{
+    if (New_picture.cacheKey() == m_picture.cacheKey())
+        return;
+    m_picture = New_picture;
+    m_pictureContent = m_picture.isNull() ? QRect() : opaqueBounds(m_picture);
+    update();
+}
+
+float Quillet::Left() const
+{
+    // A move by plain Qt calls leaves the twips behind; the pixels then tell.
+    return Twips::toPixels(m_left) == x() ? m_left : Twips::fromPixels(static_cast<float>(x()));
+}
+
+void Quillet::Left(float New_Left)
+{
+    m_left = New_Left;
+    move(Twips::toPixels(New_Left), y());
+}
+
+float Quillet::Top() const
+{
+    return Twips::toPixels(m_top) == y() ? m_top : Twips::fromPixels(static_cast<float>(y()));
+}
+
+void Quillet::Top(float New_Top)
+{
+    m_top = New_Top;
+    move(x(), Twips::toPixels(New_Top));
+}
+
+void Quillet::Move(float Left, float Top, float Width, float Height)
+{
+    m_left = Left;
+    m_top = Top;
+    setGeometry(Twips::toPixels(Left, Top, Width, Height));
+}
+
+void Quillet::forecolor(const QColor& New_forecolor)
+{
+    m_forecolor = New_forecolor;
+    update();
+}
+
+void Quillet::backcolor(const QColor& New_backcolor)
+{
+    m_backcolor = New_backcolor;
+    update();
+}
+
+void Quillet::bordertop(const QColor& New_bordertop)
+{
+    setEdge(EdgeTop, New_bordertop);
+}
+
+void Quillet::borderleft(const QColor& New_borderleft)
+{
+    setEdge(EdgeLeft, New_borderleft);
+}
+
+void Quillet::borderright(const QColor& New_borderright)
+{
+    setEdge(EdgeRight, New_borderright);
+}
+
+void Quillet::borderbottom(const QColor& New_borderbottom)
+{
+    setEdge(EdgeBottom, New_borderbottom);
+}
+
+void Quillet::setEdge(Edge edge, const QColor& colour)
+{
+    m_edges[edge] = colour;
+    update();
+}
+
+void Quillet::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), m_backcolor);
+    if (!m_picture.isNull()) {
+        const QRect target = pictureRect();
+        if (target.size() != m_picture.deviceIndependentSize().toSize())
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(target, m_picture);
+    }
+    if (!m_caption.isEmpty()) {
+        painter.setPen(captionColour());
+        painter.setFont(font());
+        painter.drawText(rect(), Qt::AlignCenter, m_caption);
+    }
+    paintEdges(painter);
+}
+
+QRect Quillet::pictureRect() const
+{
+    const QSize size = m_picture.deviceIndependentSize().toSize();
+    // Whole pixels from the face's corner keep a picture of the screen's own ratio crisp.
+    const QRect centred(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
+    const QRect content = m_pictureContent.translated(centred.topLeft());
+    if (rect().contains(content) || m_pictureContent.isEmpty())
+        return centred;
+    // Shrink about the picture's centre until what can be seen of it fits the face.
+    const QPointF middle = QRectF(QPointF(0, 0), QSizeF(size)).center();
+    const qreal reachX =
+        std::max(middle.x() - m_pictureContent.left(), m_pictureContent.right() + 1 - middle.x());
+    const qreal reachY =
+        std::max(middle.y() - m_pictureContent.top(), m_pictureContent.bottom() + 1 - middle.y());
+    const qreal scale = std::min({1.0, width() / (2.0 * reachX), height() / (2.0 * reachY)});
+    const QSize shrunk = (QSizeF(size) * scale).toSize();
+    return QRect(QPoint((width() - shrunk.width()) / 2, (height() - shrunk.height()) / 2), shrunk);
+}
+
+QColor Quillet::captionColour() const
+{
+    // A plain button greys its text while it cannot be used; a face with a picture, a
+    // pot or a bank, keeps its count readable whatever its state.
+    if (isEnabled() || !m_picture.isNull())
+        return m_forecolor;
+    return halfway(m_forecolor, m_backcolor);
+}
+
+void Quillet::paintEdges(QPainter& painter) const
+{
+    const bool sunk = m_leftPressed && m_pressedInside;
+    const int right = width() - 1;
+    const int bottom = height() - 1;
+    // Top and left first: the shadow edges own the two far corners, as on a raised key.
+    painter.fillRect(QRect(0, 0, width(), 1), m_edges[sunk ? EdgeBottom : EdgeTop]);
+    painter.fillRect(QRect(0, 0, 1, height()), m_edges[sunk ? EdgeRight : EdgeLeft]);
+    painter.fillRect(QRect(right, 0, 1, height()), m_edges[sunk ? EdgeLeft : EdgeRight]);
+    painter.fillRect(QRect(0, bottom, width(), 1), m_edges[sunk ? EdgeTop : EdgeBottom]);
+}
+
+template <typename Raise> void Quillet::deliver(Raise&& raiseEvent)
+{
+    // The game's handlers run inside this mouse event; whatever goes wrong in them must
+    // not take the event loop down with it.
+    try {
+        raiseEvent();
+    } catch (const std::exception& error) {
+        qWarning("Quillet: a handler of the face failed: %s", error.what());
+    } catch (...) {
+        qWarning("Quillet: a handler of the face failed");
+    }
+}
+
+void Quillet::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_leftPressed = true;
+        m_pressedInside = true;
+        update();
+    }
+    const int16_t button = buttonNumber(event->button());
+    const int16_t shift = shiftNumber(event->modifiers());
+    deliver([&] { emit MouseDown(button, shift, twipsX(event), twipsY(event)); });
+}
+
+void Quillet::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool leftClick = event->button() == Qt::LeftButton && m_leftPressed &&
+                           rect().contains(event->position().toPoint());
+    if (event->button() == Qt::LeftButton)
+        forgetPress();
+    const int16_t button = buttonNumber(event->button());
+    const int16_t shift = shiftNumber(event->modifiers());
+    QPointer<Quillet> alive(this);
+    deliver([&] { emit MouseUp(button, shift, twipsX(event), twipsY(event)); });
+    // The handler of the release may have closed the face or turned it off; then the
+    // click is not for it any more.
+    if (!alive || !isEnabled() || !leftClick)
+        return;
+    deliver([&] { emit Click(); });
+}
+
+void Quillet::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_leftPressed) {
+        const bool inside = rect().contains(event->position().toPoint());
+        if (inside != m_pressedInside) {
+            m_pressedInside = inside;
+            update();
+        }
+    }
+    const int16_t button = buttonNumber(event->buttons());
+    const int16_t shift = shiftNumber(event->modifiers());
+    deliver([&] { emit MouseMove(button, shift, twipsX(event), twipsY(event)); });
+}
+
+void Quillet::changeEvent(QEvent* event)
+{
+    // A face turned off with the button still down never sees the release.
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        forgetPress();
+    QWidget::changeEvent(event);
+}
+
+void Quillet::hideEvent(QHideEvent* event)
+{
+    forgetPress();
+    QWidget::hideEvent(event);
+}
+
+void Quillet::forgetPress()
+{
+    if (!m_leftPressed)
+        return;
+    m_leftPressed = false;
+    m_pressedInside = false;
+    update();
+}
