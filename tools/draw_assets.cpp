@@ -1,0 +1,389 @@
+// Draws every picture of the game, at 1x and at 2x, into the assets folder:
+//   draw_assets <assets folder> [--sheet <contact sheet.png>]
+// The pictures are committed; the build never runs this. Run it again after a change
+// here, and look at the contact sheet enlarged before committing.
+
+#include <QApplication>
+#include <QColor>
+#include <QDir>
+#include <QFileInfo>
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace {
+
+// Every picture is designed on a grid of 32 by 32 units; a unit is one pixel at 1x.
+constexpr int Grid = 32;
+
+using Draw = std::function<void(QPainter&)>;
+
+struct Picture {
+    QString name;
+    int size; // in units
+    std::function<QImage(int scale)> render;
+};
+
+QImage blank(int size, int scale)
+{
+    QImage image(size * scale, size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QImage painted(int size, int scale, const Draw& draw)
+{
+    QImage image = blank(size, scale);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    draw(painter);
+    return image;
+}
+
+// ---- discs ----------------------------------------------------------------------
+
+struct DiscColours {
+    QColor body, light, dark, darkest;
+};
+
+const DiscColours Green{{0, 187, 0}, {0, 255, 0}, {0, 136, 0}, {0, 85, 0}};
+const DiscColours Red{{255, 0, 0}, {255, 0, 51}, {170, 0, 0}, {119, 0, 0}};
+
+constexpr double DiscRadius = 15.0;
+constexpr double RimWidth = 1.0;
+constexpr double EdgeWidth = 3.0;
+
+// The colour of the disc at a point of the grid, or a clear colour outside it. The
+// light falls from the upper left; a sunken disc has its edges the other way round.
+QColor discAt(double x, double y, const DiscColours& colours, bool sunken)
+{
+    const double dx = x - Grid / 2.0;
+    const double dy = y - Grid / 2.0;
+    const double r = std::hypot(dx, dy);
+    if (r > DiscRadius)
+        return Qt::transparent;
+    if (r > DiscRadius - RimWidth)
+        return Qt::black;
+    const double inside = DiscRadius - RimWidth;
+    // How squarely this side of the disc faces the light: 1 upper left, -1 lower right.
+    double facing = r > 0 ? -(dx + dy) / (r * std::sqrt(2.0)) : 0.0;
+    if (sunken)
+        facing = -facing;
+    // The edges are crescents, widest where they face the light or turn from it.
+    const double width = EdgeWidth * std::pow(std::abs(facing), 0.6);
+    if (r <= inside - width)
+        return colours.body;
+    if (facing > 0)
+        return colours.light;
+    return r > inside - width / 2 ? colours.darkest : colours.dark;
+}
+
+// Eight by eight samples a pixel smooth the rim without blurring the edges.
+QImage disc(const DiscColours& colours, bool sunken, int scale)
+{
+    constexpr int Samples = 8;
+    QImage image = blank(Grid, scale);
+    for (int py = 0; py < image.height(); ++py) {
+        for (int px = 0; px < image.width(); ++px) {
+            double red = 0, green = 0, blue = 0, alpha = 0;
+            for (int sy = 0; sy < Samples; ++sy) {
+                for (int sx = 0; sx < Samples; ++sx) {
+                    const double x = (px + (sx + 0.5) / Samples) / scale;
+                    const double y = (py + (sy + 0.5) / Samples) / scale;
+                    const QColor c = discAt(x, y, colours, sunken);
+                    const double a = c.alphaF();
+                    red += c.redF() * a;
+                    green += c.greenF() * a;
+                    blue += c.blueF() * a;
+                    alpha += a;
+                }
+            }
+            constexpr double n = Samples * Samples;
+            image.setPixel(px, py,
+                           qRgba(qRound(255 * red / n), qRound(255 * green / n),
+                                 qRound(255 * blue / n), qRound(255 * alpha / n)));
+        }
+    }
+    return image;
+}
+
+// ---- the pointing hand ------------------------------------------------------------
+
+// Outline coordinates sit on half units so that a one-unit stroke covers whole pixels.
+QPainterPath handOutline()
+{
+    QPainterPath fist;
+    fist.addRoundedRect(QRectF(8.5, 7.5, 16, 12), 3, 3);
+    QPainterPath finger;
+    finger.addRoundedRect(QRectF(11.5, 12.5, 5, 18), 2.5, 2.5);
+    QPainterPath thumb;
+    thumb.addRoundedRect(QRectF(5.5, 9.5, 6, 8), 3, 3);
+    QPainterPath knuckles;
+    for (int i = 0; i < 3; ++i)
+        knuckles.addRoundedRect(QRectF(16.5 + 3 * i, 15.5, 3, 7 - i), 1.5, 1.5);
+    return fist.united(finger).united(thumb).united(knuckles).simplified();
+}
+
+void drawHand(QPainter& painter)
+{
+    const QPen outline(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    painter.setPen(outline);
+    painter.setBrush(Qt::white);
+    painter.drawPath(handOutline());
+    // The pointing finger stands apart from the folded ones.
+    painter.drawLine(QPointF(16.5, 12.5), QPointF(16.5, 21));
+    painter.drawLine(QPointF(19.5, 16.5), QPointF(19.5, 21));
+    painter.drawLine(QPointF(22.5, 16.5), QPointF(22.5, 20));
+    // The cuff: cyan, with a grey band where it meets the hand.
+    painter.setBrush(QColor(0, 255, 255));
+    painter.drawRect(QRectF(9.5, 1.5, 14, 4));
+    painter.setBrush(QColor(128, 128, 128));
+    painter.drawRect(QRectF(9.5, 5.5, 14, 2));
+}
+
+// At 16 pixels a drawn outline would blur; the small hand is set pixel by pixel.
+// k black, w white, c cyan, g grey.
+const char* const SmallHand[16] = {
+    "....kkkkkkkk....", //
+    "....kcccccck....", //
+    "....kcccccck....", //
+    "....kggggggk....", //
+    "..kkkwwwwwwkk...", //
+    ".kwwkwwwwwwwwk..", //
+    ".kwwwwwwwwwwwk..", //
+    "..kkwwwwwwwwwk..", //
+    "....kwwwkwwwwk..", //
+    "....kwwwkwkwwk..", //
+    "....kwwwkwkwk...", //
+    "....kwwwkkkkk...", //
+    "....kwwwk.......", //
+    "....kwwwk.......", //
+    "....kwwwk.......", //
+    ".....kkk........", //
+};
+
+QImage smallHand()
+{
+    QImage image = blank(16, 1);
+    for (int y = 0; y < 16; ++y) {
+        for (int x = 0; x < 16; ++x) {
+            switch (SmallHand[y][x]) {
+            case 'k':
+                image.setPixelColor(x, y, Qt::black);
+                break;
+            case 'w':
+                image.setPixelColor(x, y, Qt::white);
+                break;
+            case 'c':
+                image.setPixelColor(x, y, QColor(0, 255, 255));
+                break;
+            case 'g':
+                image.setPixelColor(x, y, QColor(128, 128, 128));
+                break;
+            default:
+                break;
+            }
+        }
+    }
+    return image;
+}
+
+QImage hand(int size, int scale)
+{
+    // The small hand at 2x has the pixels of the large one at 1x.
+    if (size == Grid / 2 && scale == 1)
+        return smallHand();
+    return painted(size, scale, [size](QPainter& painter) {
+        painter.scale(size / double(Grid), size / double(Grid));
+        drawHand(painter);
+    });
+}
+
+// ---- the curved arrows --------------------------------------------------------------
+
+// A quarter circle from the top of the grid curving down to the left, its head
+// pointing down; the green arrow is the same turned half round.
+void drawArrow(QPainter& painter, const QColor& colour, bool turned)
+{
+    constexpr double Radius = 20.0;
+    const QPointF centre(27, 27);
+    QPainterPath arc;
+    arc.moveTo(29, centre.y() - Radius);
+    arc.arcTo(QRectF(centre.x() - Radius, centre.y() - Radius, 2 * Radius, 2 * Radius), 90, 90);
+    QPainterPath head;
+    head.moveTo(1.5, 24);
+    head.lineTo(12.5, 24);
+    head.lineTo(7, 31);
+    head.closeSubpath();
+
+    const auto shape = [&](const QColor& fill, QPointF offset) {
+        painter.save();
+        if (turned) {
+            painter.translate(Grid, Grid);
+            painter.rotate(180);
+        }
+        // The shade keeps falling to the lower right, however the arrow is turned.
+        painter.translate(turned ? -offset : offset);
+        painter.setPen(QPen(fill, 4.0, Qt::SolidLine, Qt::FlatCap));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(arc);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(fill);
+        painter.drawPath(head);
+        painter.restore();
+    };
+    shape(QColor(128, 128, 128), QPointF(1, 1));
+    shape(colour, QPointF(0, 0));
+}
+
+// ---- the miniature board ------------------------------------------------------------
+
+// Laid out on whole pixels so that the twelve small pots stay apart at 1x: banks two
+// units wide, pots three with one between, all in a board 31 units wide.
+void drawBoard(QPainter& painter)
+{
+    painter.setPen(QPen(QColor(110, 70, 30), 1.0));
+    painter.setBrush(QColor(210, 160, 90));
+    painter.drawRoundedRect(QRectF(0.5, 5.5, 30, 21), 2.5, 2.5);
+
+    const QColor red(255, 0, 0), green(0, 187, 0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(red);
+    painter.drawRoundedRect(QRectF(1, 8, 2, 16), 1, 1);
+    painter.setBrush(green);
+    painter.drawRoundedRect(QRectF(28, 8, 2, 16), 1, 1);
+    for (int i = 0; i < 6; ++i) {
+        const double x = 4 + 4 * i;
+        painter.setBrush(red);
+        painter.drawRoundedRect(QRectF(x, 8, 3, 3), 1, 1);
+        painter.setBrush(green);
+        painter.drawRoundedRect(QRectF(x, 21, 3, 3), 1, 1);
+    }
+
+    // The way of the sowing: the computer's row leftwards, the human's rightwards.
+    const QColor magenta(255, 0, 255);
+    painter.setBrush(magenta);
+    painter.drawRect(QRectF(12, 13, 8, 1));
+    painter.drawRect(QRectF(11, 18, 8, 1));
+    painter.drawPolygon(QPolygonF({QPointF(9, 13.5), QPointF(12, 11), QPointF(12, 16)}));
+    painter.drawPolygon(QPolygonF({QPointF(22, 18.5), QPointF(19, 16), QPointF(19, 21)}));
+}
+
+std::vector<Picture> pictures()
+{
+    const auto vector = [](const Draw& draw) {
+        return [draw](int scale) { return painted(Grid, scale, draw); };
+    };
+    const auto discOf = [](const DiscColours& colours, bool sunken) {
+        return [colours, sunken](int scale) { return disc(colours, sunken, scale); };
+    };
+    return {
+        {"board", Grid, vector(drawBoard)},
+        {"hand", Grid, [](int scale) { return hand(Grid, scale); }},
+        {"hand16", 16, [](int scale) { return hand(16, scale); }},
+        {"disc_green_raised", Grid, discOf(Green, false)},
+        {"disc_green_sunken", Grid, discOf(Green, true)},
+        {"disc_red_raised", Grid, discOf(Red, false)},
+        {"disc_red_sunken", Grid, discOf(Red, true)},
+        {"arrow_red", Grid, vector([](QPainter& p) { drawArrow(p, QColor(255, 0, 0), false); })},
+        {"arrow_green", Grid, vector([](QPainter& p) { drawArrow(p, QColor(0, 128, 0), true); })},
+    };
+}
+
+// ---- the contact sheet --------------------------------------------------------------
+
+// Each picture enlarged without smoothing, at 1x and 2x, on the window's grey, then
+// a pot face as the board shows it, so that every pixel can be judged.
+QImage contactSheet(const std::vector<Picture>& all)
+{
+    constexpr int Cell = 8 * Grid + 16;
+    QImage sheet(4 * Cell, static_cast<int>(all.size()) * Cell, QImage::Format_RGB32);
+    sheet.fill(QColor(240, 240, 240));
+    QPainter painter(&sheet);
+    int row = 0;
+    for (const Picture& picture : all) {
+        const int zoom = 8 * Grid / picture.size;
+        const int top = row * Cell + 8;
+        for (int scale : {1, 2}) {
+            const QImage image = picture.render(scale);
+            const int left = (scale - 1) * Cell + 8;
+            painter.fillRect(left, top, 8 * Grid, 8 * Grid, QColor(212, 208, 200));
+            painter.drawImage(QRect(left, top, 8 * Grid, 8 * Grid),
+                              image.scaled(image.size() * zoom / scale));
+        }
+        // A 37 pixel pot face with a count, as the board shows it at 1x and 2x.
+        for (int scale : {1, 2}) {
+            QImage pot(37 * scale, 37 * scale, QImage::Format_RGB32);
+            pot.fill(QColor(212, 208, 200));
+            QPainter face(&pot);
+            const QImage image = picture.render(scale);
+            const int offset = (37 - picture.size) / 2 * scale;
+            face.drawImage(offset, offset, image);
+            face.scale(scale, scale);
+            face.setPen(Qt::white);
+            face.setFont(QFont("Arial", 10, QFont::Bold));
+            face.drawText(QRect(0, 0, 37, 37), Qt::AlignCenter, "12");
+            face.end();
+            const int left = (1 + scale) * Cell + 8;
+            painter.drawImage(QRect(left, top, 37 * 6, 37 * 6), pot.scaled(QSize(37 * 6, 37 * 6)));
+        }
+        ++row;
+    }
+    return sheet;
+}
+
+bool save(const QImage& image, const QString& path)
+{
+    if (image.save(path, "PNG"))
+        return true;
+    std::fprintf(stderr, "draw_assets: cannot write %s\n", qPrintable(path));
+    return false;
+}
+
+// Three pictures a page keep the enlargement readable: sheet-1.png, sheet-2.png...
+bool saveSheets(const std::vector<Picture>& all, const QString& path)
+{
+    constexpr std::size_t PerPage = 3;
+    const QFileInfo file(path);
+    bool written = true;
+    for (std::size_t first = 0; first < all.size(); first += PerPage) {
+        const std::vector<Picture> page(all.begin() + first,
+                                        all.begin() + std::min(all.size(), first + PerPage));
+        const QString name = QString("%1/%2-%3.png")
+                                 .arg(file.path(), file.completeBaseName())
+                                 .arg(first / PerPage + 1);
+        written &= save(contactSheet(page), name);
+    }
+    return written;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    const QStringList arguments = app.arguments();
+    if (arguments.size() != 2 && !(arguments.size() == 4 && arguments[2] == "--sheet")) {
+        std::fprintf(stderr, "usage: draw_assets <assets folder> [--sheet <file.png>]\n");
+        return 2;
+    }
+    const QDir folder(arguments[1]);
+    const std::vector<Picture> all = pictures();
+    bool written = true;
+    for (const Picture& picture : all) {
+        written &= save(picture.render(1), folder.filePath(picture.name + ".png"));
+        written &= save(picture.render(2), folder.filePath(picture.name + "@2x.png"));
+    }
+    if (arguments.size() == 4)
+        written &= saveSheets(all, arguments[3]);
+    return written ? 0 : 1;
+}
