@@ -1,0 +1,127 @@
+#include "helpabout/aboutform.h"
+
+#include "helpabout/boardpicture.h"
+#include "helpabout/twips.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTextEdit>
+
+namespace {
+
+constexpr TwipRect ClientPlace{2790, 2925, 4755, 2640};
+constexpr TwipRect AboutOkPlace{1740, 1860, 510, 375};
+constexpr TwipRect Picture1Place{4185, 30, 510, 480};
+constexpr TwipRect Label1Place{90, 2280, 4575, 315};
+constexpr TwipRect Text1Place{60, 30, 4095, 1755};
+
+// Three empty lines set the name and the address low in the box.
+const QString AboutText = QStringLiteral("\n\n\nTAVOK by Dravo\nemail dravo@tavok.example");
+
+QFont FormFont()
+{
+    QFont font(QStringLiteral("MS Sans Serif"));
+    font.setPointSizeF(8.25);
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+AboutForm::AboutForm(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint)
+{
+    setWindowTitle(QStringLiteral("About TAVOK"));
+    setWindowIcon(QIcon(MiniatureBoard()));
+    setFont(FormFont());
+    const double perPixel = TwipsPerPixel(this);
+    const QRect client = ToPixels(ClientPlace, perPixel);
+    setGeometry(client);
+    setFixedSize(client.size());
+
+    AboutOk = new QPushButton(QStringLiteral("OK"), this);
+    AboutOk->setGeometry(ToPixels(AboutOkPlace, perPixel));
+    AboutOk->setDefault(true);
+
+    Picture1 = new QLabel(this);
+    Picture1->setGeometry(ToPixels(Picture1Place, perPixel));
+    Picture1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    Picture1->setPixmap(MiniatureBoard());
+
+    Label1 = new QLabel(QStringLiteral("Version 1.0"), this);
+    Label1->setGeometry(ToPixels(Label1Place, perPixel));
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->setAutoFillBackground(true);
+    QPalette versionColours = Label1->palette();
+    versionColours.setColor(QPalette::Window, Qt::black);
+    versionColours.setColor(QPalette::WindowText, Qt::white);
+    Label1->setPalette(versionColours);
+
+    Text1 = new QTextEdit(this);
+    Text1->setGeometry(ToPixels(Text1Place, perPixel));
+    Text1->setReadOnly(true);
+    Text1->setFrameShape(QFrame::NoFrame);
+    Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Text1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Text1->document()->setDefaultTextOption(QTextOption(Qt::AlignHCenter));
+    Text1->setPlainText(AboutText);
+    QPalette buttonFace = Text1->palette();
+    buttonFace.setColor(QPalette::Base, buttonFace.color(QPalette::Button));
+    Text1->setPalette(buttonFace);
+
+    // The picture, the version and the text are not the window's surface: a press on
+    // them must not reach Form_MouseDown.
+    for (QWidget* child : {static_cast<QWidget*>(Picture1), static_cast<QWidget*>(Label1),
+                           static_cast<QWidget*>(Text1), Text1->viewport()})
+        child->setAttribute(Qt::WA_NoMousePropagation);
+    Text1->viewport()->installEventFilter(this);
+
+    setTabOrder(AboutOk, Text1);
+    AboutOk->setFocus();
+    connect(AboutOk, &QPushButton::clicked, this, &AboutForm::AboutOk_Click);
+}
+
+void AboutForm::showModal(QWidget* parent)
+{
+    AboutForm about(parent);
+    about.exec();
+}
+
+void AboutForm::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    Form_MouseDown();
+}
+
+bool AboutForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == Text1->viewport() && event->type() == QEvent::MouseButtonRelease) {
+        const auto* release = static_cast<QMouseEvent*>(event);
+        if (Text1->viewport()->rect().contains(release->position().toPoint()))
+            Text1_MouseUp();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void AboutForm::AboutOk_Click()
+{
+    Unload();
+}
+
+void AboutForm::Form_MouseDown()
+{
+    Unload();
+}
+
+void AboutForm::Text1_MouseUp()
+{
+    Unload();
+}
+
+// Closing from the frame ends here too, through QDialog's own close handling.
+void AboutForm::Unload()
+{
+    reject();
+}

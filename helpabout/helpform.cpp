@@ -1,0 +1,154 @@
+#include "helpabout/helpform.h"
+
+#include "helpabout/boardpicture.h"
+#include "helpabout/twips.h"
+#include "helpabout/webbrowser.h"
+
+#include <QEvent>
+#include <QPushButton>
+#include <QScreen>
+
+namespace {
+
+constexpr int ClientWidth = 7185;
+constexpr int ClientHeight = 5625;
+constexpr TwipRect Command1Place{60, 30, 1095, 375};
+constexpr TwipRect Command2Place{1155, 30, 1095, 375};
+constexpr TwipRect Command3Place{2250, 30, 1095, 375};
+constexpr TwipRect BrowserPlace{30, 420, 7110, 5460};
+
+// What the frame takes round the browser: its right and lower edges follow the
+// window's outer edges at these distances.
+constexpr double FrameWidthAllowance = 120;
+constexpr double FrameHeightAllowance = 480;
+
+QFont ButtonFont()
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(8.25);
+    font.setBold(false);
+    return font;
+}
+
+} // namespace
+
+HelpForm::HelpForm(QWidget* parent) : QWidget(parent, Qt::Window)
+{
+    // Closing from the frame unloads the window; the next "Help" builds a new one.
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("Tavok Help"));
+    setWindowIcon(QIcon(MiniatureBoard()));
+    const double perPixel = TwipsPerPixel(this);
+    resize(ToPixels(ClientWidth, perPixel), ToPixels(ClientHeight, perPixel));
+
+    Command1 = addButton(QStringLiteral("Back"), ToPixels(Command1Place, perPixel));
+    Command2 = addButton(QStringLiteral("Forward"), ToPixels(Command2Place, perPixel));
+    Command3 = addButton(QStringLiteral("Exit"), ToPixels(Command3Place, perPixel));
+    WebBrowser1 = new WebBrowser(this);
+    WebBrowser1->setGeometry(ToPixels(BrowserPlace, perPixel));
+
+    setTabOrder(WebBrowser1, Command1);
+    setTabOrder(Command1, Command2);
+    setTabOrder(Command2, Command3);
+    WebBrowser1->setFocus();
+
+    connect(Command1, &QPushButton::clicked, this, &HelpForm::Command1_Click);
+    connect(Command2, &QPushButton::clicked, this, &HelpForm::Command2_Click);
+    connect(Command3, &QPushButton::clicked, this, &HelpForm::Command3_Click);
+    centreOnScreen();
+}
+
+void HelpForm::Tag(const QString& path)
+{
+    tag = path;
+}
+
+QString HelpForm::Tag() const
+{
+    return tag;
+}
+
+// Every return to this window shows the page afresh, from its top.
+void HelpForm::Form_Activate()
+{
+    WebBrowser1->Navigate(tag);
+}
+
+// The browser's lower and right edges follow the frame; a window made too small
+// for it leaves the browser as it was.
+void HelpForm::Form_Resize()
+{
+    const double perPixel = TwipsPerPixel(this);
+    const QSize outer = frameGeometry().size();
+    const double width = outer.width() * perPixel - FrameWidthAllowance;
+    if (width >= 0)
+        WebBrowser1->Width(width);
+    const double height = outer.height() * perPixel - FrameHeightAllowance - WebBrowser1->Top();
+    if (height >= 0)
+        WebBrowser1->Height(height);
+}
+
+// Back and Forward act only after a jump inside the page: at the plain page they
+// would leave it for whatever was shown before.
+void HelpForm::Command1_Click()
+{
+    if (WebBrowser1->LocationURL().contains(QLatin1Char('#')))
+        WebBrowser1->GoBack();
+}
+
+void HelpForm::Command2_Click()
+{
+    if (WebBrowser1->LocationURL().contains(QLatin1Char('#')))
+        WebBrowser1->GoForward();
+}
+
+void HelpForm::Command3_Click()
+{
+    hide();
+}
+
+void HelpForm::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Form_Activate();
+}
+
+// A window manager may keep the focus where it was; the page is there all the same.
+void HelpForm::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    Form_Activate();
+}
+
+void HelpForm::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    Form_Resize();
+}
+
+// The frame's true size is known only once the window manager has put it round the
+// window, which moves the window without resizing it.
+void HelpForm::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    Form_Resize();
+}
+
+QPushButton* HelpForm::addButton(const QString& text, const QRect& place)
+{
+    auto* button = new QPushButton(text, this);
+    button->setFont(ButtonFont());
+    button->setGeometry(place);
+    return button;
+}
+
+void HelpForm::centreOnScreen()
+{
+    const QScreen* screen = this->screen();
+    if (!screen)
+        return;
+    QRect frame = geometry();
+    frame.moveCenter(screen->availableGeometry().center());
+    move(frame.topLeft());
+}

@@ -1,0 +1,95 @@
+#include "help_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QUrl>
+
+namespace {
+
+QString Filler(int paragraphs)
+{
+    QString text;
+    for (int i = 0; i < paragraphs; ++i)
+        text += QStringLiteral("<p>Sow the beads round the ring, one by one.</p>");
+    return text;
+}
+
+} // namespace
+
+TestPage::TestPage()
+{
+    rewrite(QStringLiteral("first version"));
+    QImage dot(12, 12, QImage::Format_RGB32);
+    dot.fill(Qt::green);
+    QDir(folder.path()).mkpath(QStringLiteral("help"));
+    dot.save(folder.filePath(QStringLiteral("help/dot.png")));
+}
+
+QString TestPage::path() const
+{
+    return folder.filePath(QStringLiteral("tavok.htm"));
+}
+
+QString TestPage::address() const
+{
+    return QUrl::fromLocalFile(path()).toString();
+}
+
+void TestPage::rewrite(const QString& marker)
+{
+    const QString html =
+        QStringLiteral("<html><body><p>%1</p>"
+                       "<p><a href=\"#first\">First</a> <a href=\"#second\">Second</a> "
+                       "<a href=\"http://tavok.example/\">Web</a> "
+                       "<a href=\"mailto:dravo@tavok.example\">Mail</a> "
+                       "<a href=\"other.htm\">Other</a> "
+                       "<a href=\"tavok.htm#second\">Again</a></p>")
+            .arg(marker) +
+        Filler(60) + QStringLiteral("<h2><a name=\"first\">First place</a></h2>") + Filler(60) +
+        QStringLiteral("<h2><a name=\"second\">Second place</a></h2>") + Filler(60) +
+        QStringLiteral("<p><img src=\"help/dot.png\"></p></body></html>");
+    QFile file(path());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(html.toUtf8());
+}
+
+QTextBrowser* ViewOf(QWidget* browser)
+{
+    return browser->findChild<QTextBrowser*>();
+}
+
+QPoint LinkPoint(QTextBrowser* view, const QString& href)
+{
+    QTextDocument* document = view->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            if (fragment.charFormat().anchorHref() != href)
+                continue;
+            QTextCursor cursor(document);
+            cursor.setPosition(fragment.position() + fragment.length() / 2);
+            return view->cursorRect(cursor).center();
+        }
+    }
+    return {-1, -1};
+}
+
+void ClickLink(QTextBrowser* view, const QString& href)
+{
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, LinkPoint(view, href));
+}
+
+bool PageShows(QTextBrowser* view, const QString& text)
+{
+    return view->toPlainText().contains(text);
+}
+
+int ScrollOf(QTextBrowser* view)
+{
+    return view->verticalScrollBar()->value();
+}
