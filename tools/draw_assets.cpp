@@ -87,30 +87,30 @@ QColor discAt(double x, double y, const DiscColours& colours, bool sunken)
     return r > inside - width / 2 ? colours.darkest : colours.dark;
 }
 
-// Eight by eight samples a pixel smooth the rim without blurring the edges.
+// Each pixel takes the colour of the disc at its middle, so that it holds exactly one
+// colour of the disc; only the outline is smoothed, by how much of the pixel the disc
+// covers, in the black of the rim.
 QImage disc(const DiscColours& colours, bool sunken, int scale)
 {
     constexpr int Samples = 8;
     QImage image = blank(Grid, scale);
     for (int py = 0; py < image.height(); ++py) {
         for (int px = 0; px < image.width(); ++px) {
-            double red = 0, green = 0, blue = 0, alpha = 0;
+            int covered = 0;
             for (int sy = 0; sy < Samples; ++sy) {
                 for (int sx = 0; sx < Samples; ++sx) {
                     const double x = (px + (sx + 0.5) / Samples) / scale;
                     const double y = (py + (sy + 0.5) / Samples) / scale;
-                    const QColor c = discAt(x, y, colours, sunken);
-                    const double a = c.alphaF();
-                    red += c.redF() * a;
-                    green += c.greenF() * a;
-                    blue += c.blueF() * a;
-                    alpha += a;
+                    covered += discAt(x, y, colours, sunken).alpha() > 0;
                 }
             }
-            constexpr double n = Samples * Samples;
-            image.setPixel(px, py,
-                           qRgba(qRound(255 * red / n), qRound(255 * green / n),
-                                 qRound(255 * blue / n), qRound(255 * alpha / n)));
+            if (covered == 0)
+                continue;
+            QColor colour = discAt((px + 0.5) / scale, (py + 0.5) / scale, colours, sunken);
+            if (colour.alpha() == 0)
+                colour = Qt::black;
+            colour.setAlpha(qRound(255.0 * covered / (Samples * Samples)));
+            image.setPixelColor(px, py, colour);
         }
     }
     return image;

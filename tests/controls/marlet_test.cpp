@@ -1,0 +1,138 @@
+#include "controls/marlet.h"
+
+#include <QLabel>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The score board as the window sets it up, on a shown window with a moves list
+// standing where the board opens.
+class ScoreBoard : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        window.resize(530, 464);
+        Score1 = new Marlets::Marlet(&window);
+        Score1->setGeometry(232, 248, 241, 121);
+        Score1->Visible(false);
+        movesList = new QWidget(&window);
+        movesList->setGeometry(143, 212, 379, 250);
+        Score1->ScoreTitle("Tavok");
+        Score1->ScoreOptionB(true);
+        Score1->ScoreOptionA(true);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    void open()
+    {
+        Score1->ScoreShow(true);
+        Score1->Visible(true);
+        Score1->ZOrder(0);
+    }
+
+    QString shown(const char* name) const
+    {
+        const auto* label = Score1->findChild<QLabel*>(name);
+        return label && label->isVisibleTo(Score1) ? label->text() : QString("(not shown)");
+    }
+
+    QWidget window;
+    Marlets::Marlet* Score1 = nullptr;
+    QWidget* movesList = nullptr;
+};
+
+} // namespace
+
+TEST_F(ScoreBoard, EachWriteCountsOneGame)
+{
+    Score1->ScoreWin(true);
+    Score1->ScoreWin(true);
+    Score1->ScoreWin(false);
+    Score1->ScoreDraw(true);
+    Score1->ScoreDraw(false);
+
+    EXPECT_EQ(Score1->wins(), 2);
+    EXPECT_EQ(Score1->losses(), 1);
+    EXPECT_EQ(Score1->draws(), 1);
+}
+
+TEST_F(ScoreBoard, OpensUnderTheGamesTitleWithTheCountsUpToDate)
+{
+    Score1->ScoreWin(true);
+    Score1->ScoreWin(false);
+    Score1->ScoreWin(true);
+    Score1->ScoreDraw(true);
+    open();
+
+    EXPECT_TRUE(Score1->isVisible());
+    EXPECT_EQ(shown("title"), "Tavok");
+    EXPECT_EQ(shown("won"), "2");
+    EXPECT_EQ(shown("lost"), "1");
+    EXPECT_EQ(shown("drawn"), "1");
+    EXPECT_EQ(shown("share"), "50%");
+}
+
+TEST_F(ScoreBoard, AGameEndingUnderTheOpenBoardShowsAtOnce)
+{
+    open();
+    Score1->ScoreWin(false);
+    Score1->ScoreDraw(true);
+
+    EXPECT_EQ(shown("lost"), "1");
+    EXPECT_EQ(shown("drawn"), "1");
+    EXPECT_EQ(shown("share"), "0%");
+}
+
+TEST_F(ScoreBoard, ShareWaitsForAFinishedGame)
+{
+    open();
+    EXPECT_EQ(shown("share"), "-");
+    Score1->ScoreWin(true);
+    Score1->ScoreWin(false);
+    Score1->ScoreWin(false);
+    EXPECT_EQ(shown("share"), "33%");
+}
+
+TEST_F(ScoreBoard, OptionAShowsTheShareAndOptionBTheDrawnGames)
+{
+    Score1->ScoreOptionA(false);
+    Score1->ScoreOptionB(false);
+    open();
+    EXPECT_EQ(shown("share"), "(not shown)");
+    EXPECT_EQ(shown("drawn"), "(not shown)");
+    EXPECT_EQ(shown("won"), "0");
+
+    Score1->ScoreOptionB(true);
+    EXPECT_EQ(shown("drawn"), "0");
+    EXPECT_EQ(shown("share"), "(not shown)");
+}
+
+TEST_F(ScoreBoard, ItsOwnCloseHidesItAndTheWindowCanShowItAgain)
+{
+    open();
+    auto* close = Score1->findChild<QToolButton*>("close");
+    ASSERT_NE(close, nullptr);
+    QTest::mouseClick(close, Qt::LeftButton);
+    EXPECT_FALSE(Score1->isVisible());
+
+    Score1->ScoreWin(true);
+    open();
+    EXPECT_TRUE(Score1->isVisible());
+    EXPECT_EQ(shown("won"), "1");
+}
+
+TEST_F(ScoreBoard, OpensInFrontOfTheMovesList)
+{
+    open();
+    const QPoint middle = Score1->geometry().center();
+    QWidget* top = window.childAt(middle);
+    ASSERT_NE(top, nullptr);
+    EXPECT_TRUE(top == Score1 || Score1->isAncestorOf(top));
+
+    Score1->ZOrder(1);
+    EXPECT_EQ(window.childAt(middle), movesList);
+}
