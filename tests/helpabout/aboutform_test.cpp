@@ -17,16 +17,6 @@ protected:
     {
         about.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&about));
-        text = about.findChild<QTextEdit*>();
-        ASSERT_NE(text, nullptr);
-    }
-
-    QLabel* version() const
-    {
-        for (QLabel* label : about.findChildren<QLabel*>())
-            if (label->text() == QStringLiteral("Version 1.0"))
-                return label;
-        return nullptr;
     }
 
     // A point of the window's own surface, clear of every control.
@@ -40,7 +30,7 @@ protected:
     }
 
     AboutForm about;
-    QTextEdit* text = nullptr;
+    QTextEdit* text = about.findChild<QTextEdit*>();
 };
 
 } // namespace
@@ -50,15 +40,9 @@ TEST_F(AboutWindow, NamesTheGameItsMakerAndItsVersion)
     EXPECT_EQ(about.windowTitle(), QStringLiteral("About TAVOK"));
     const QStringList lines = text->toPlainText().split(QLatin1Char('\n'));
     ASSERT_EQ(lines.size(), 5);
-    EXPECT_EQ(lines.mid(0, 3), QStringList({QString(), QString(), QString()}));
+    EXPECT_EQ(lines.mid(0, 3).join(QString()), QString());
     EXPECT_EQ(lines[3], QStringLiteral("TAVOK by Dravo"));
     EXPECT_TRUE(lines[4].startsWith(QStringLiteral("email "))) << lines[4].toStdString();
-    ASSERT_NE(version(), nullptr);
-}
-
-TEST_F(AboutWindow, HasAFixedSize)
-{
-    EXPECT_EQ(about.minimumSize(), about.maximumSize());
 }
 
 TEST_F(AboutWindow, OkClosesIt)
@@ -69,28 +53,8 @@ TEST_F(AboutWindow, OkClosesIt)
 
 TEST_F(AboutWindow, APressOnItsSurfaceClosesIt)
 {
-    const QPoint point = surface();
-    ASSERT_NE(point, QPoint(-1, -1));
-    QTest::mousePress(&about, Qt::RightButton, {}, point);
+    QTest::mousePress(&about, Qt::RightButton, {}, surface());
     EXPECT_FALSE(about.isVisible());
-}
-
-TEST_F(AboutWindow, AReleaseOverTheTextClosesItThePressDoesNot)
-{
-    QWidget* viewport = text->viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, viewport->rect().center());
-    EXPECT_TRUE(about.isVisible());
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, viewport->rect().center());
-    EXPECT_FALSE(about.isVisible());
-}
-
-TEST_F(AboutWindow, AReleaseAfterDraggingOffTheTextLeavesItOpen)
-{
-    QWidget* viewport = text->viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, viewport->rect().center());
-    QTest::mouseRelease(viewport, Qt::LeftButton, {},
-                        viewport->rect().bottomRight() + QPoint(20, 20));
-    EXPECT_TRUE(about.isVisible());
 }
 
 TEST_F(AboutWindow, ClosingFromTheFrameClosesIt)
@@ -99,10 +63,22 @@ TEST_F(AboutWindow, ClosingFromTheFrameClosesIt)
     EXPECT_FALSE(about.isVisible());
 }
 
+TEST_F(AboutWindow, AReleaseOverTheTextClosesItThePressAndAReleaseElsewhereDoNot)
+{
+    QWidget* viewport = text->viewport();
+    const QPoint inside = viewport->rect().center();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, inside);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {},
+                        viewport->rect().bottomRight() + QPoint(9, 9));
+    EXPECT_TRUE(about.isVisible());
+    QTest::mousePress(viewport, Qt::LeftButton, {}, inside);
+    EXPECT_TRUE(about.isVisible());
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, inside);
+    EXPECT_FALSE(about.isVisible());
+}
+
 TEST_F(AboutWindow, ThePictureAndTheVersionDoNotReact)
 {
-    QTest::mousePress(version(), Qt::LeftButton);
-    QTest::mouseRelease(version(), Qt::LeftButton);
     for (QLabel* label : about.findChildren<QLabel*>())
         QTest::mouseClick(label, Qt::LeftButton);
     EXPECT_TRUE(about.isVisible());
@@ -124,15 +100,13 @@ TEST(AboutModal, ShowModalReturnsOnceTheWindowIsClosed)
     QTimer rescue;
     rescue.setSingleShot(true);
     QObject::connect(&rescue, &QTimer::timeout, [&] {
-        if (QWidget* stuck = QApplication::activeModalWidget()) {
-            forcedClosed = true;
+        forcedClosed = true;
+        if (QWidget* stuck = QApplication::activeModalWidget())
             stuck->close();
-        }
     });
     rescue.start(3000);
     AboutForm::showModal(&board);
     EXPECT_TRUE(seenModal);
     EXPECT_FALSE(forcedClosed);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(board.findChildren<AboutForm*>().isEmpty()) << "each showing is a new window";
 }

@@ -7,19 +7,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QUrl>
-
-namespace {
-
-QString Filler(int paragraphs)
-{
-    QString text;
-    for (int i = 0; i < paragraphs; ++i)
-        text += QStringLiteral("<p>Sow the beads round the ring, one by one.</p>");
-    return text;
-}
-
-} // namespace
 
 TestPage::TestPage()
 {
@@ -30,11 +17,6 @@ TestPage::TestPage()
     dot.save(folder.filePath(QStringLiteral("help/dot.png")));
 }
 
-QString TestPage::path() const
-{
-    return folder.filePath(QStringLiteral("tavok.htm"));
-}
-
 QString TestPage::address() const
 {
     return QUrl::fromLocalFile(path()).toString();
@@ -42,17 +24,18 @@ QString TestPage::address() const
 
 void TestPage::rewrite(const QString& marker)
 {
-    const QString html =
-        QStringLiteral("<html><body><p>%1</p>"
-                       "<p><a href=\"#first\">First</a> <a href=\"#second\">Second</a> "
-                       "<a href=\"http://tavok.example/\">Web</a> "
-                       "<a href=\"mailto:dravo@tavok.example\">Mail</a> "
-                       "<a href=\"other.htm\">Other</a> "
-                       "<a href=\"tavok.htm#second\">Again</a></p>")
-            .arg(marker) +
-        Filler(60) + QStringLiteral("<h2><a name=\"first\">First place</a></h2>") + Filler(60) +
-        QStringLiteral("<h2><a name=\"second\">Second place</a></h2>") + Filler(60) +
-        QStringLiteral("<p><img src=\"help/dot.png\"></p></body></html>");
+    const QString filler =
+        QStringLiteral("<p>Sow the beads round the ring, one by one.</p>").repeated(60);
+    const QString html = QStringLiteral("<p>%1</p><p><a href=\"#first\">First</a> "
+                                        "<a href=\"#second\">Second</a> "
+                                        "<a href=\"http://tavok.example/\">Web</a> "
+                                        "<a href=\"mailto:dravo@tavok.example\">Mail</a> "
+                                        "<a href=\"other.htm\">Other</a> "
+                                        "<a href=\"tavok.htm#second\">Again</a></p>%2"
+                                        "<h2><a name=\"first\">First place</a></h2>%2"
+                                        "<h2><a name=\"second\">Second place</a></h2>%2"
+                                        "<p><img src=\"help/dot.png\"></p>")
+                             .arg(marker, filler);
     QFile file(path());
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         file.write(html.toUtf8());

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <QPoint>
-#include <QString>
 #include <QTemporaryDir>
 
 class QTextBrowser;
-class QWidget;
 
-// A page written for the test: a contents line of links at the top, two places far
-// enough down that a jump scrolls, links that lead out of the page, and a picture
-// beside it in help/.
+// A page written for the test: links at the top, two places far enough down that a
+// jump scrolls, links that lead out of the page, and a picture beside it in help/.
 class TestPage {
 public:
     TestPage();
-    QString path() const;
+    QString path() const { return folder.filePath(QStringLiteral("tavok.htm")); }
     QString address() const;
     void rewrite(const QString& marker);
 
@@ -22,7 +19,7 @@ private:
 };
 
 QTextBrowser* ViewOf(QWidget* browser);
-// Where a link is on the screen, in the view's viewport; (-1, -1) when it is not there.
+// Where a link is in the view's viewport; (-1, -1) when the page has no such link.
 QPoint LinkPoint(QTextBrowser* view, const QString& href);
 void ClickLink(QTextBrowser* view, const QString& href);
 bool PageShows(QTextBrowser* view, const QString& text);

@@ -11,24 +11,26 @@
 
 namespace {
 
-class BrowserTest : public ::testing::Test {
+class Browser : public ::testing::Test {
 protected:
     void SetUp() override
     {
         browser.resize(400, 300);
-        browser.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser));
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
         browser.Navigate(page.path());
         view = ViewOf(&browser);
-        ASSERT_NE(view, nullptr);
     }
 
+    QString at(const char* place) const { return page.address() + QLatin1String(place); }
+
     TestPage page;
-    WebBrowser browser;
+    QWidget window;
+    WebBrowser browser{&window};
     QTextBrowser* view = nullptr;
 };
 
-// Counts every URL the desktop would have been asked to open.
+// Counts every address the desktop would have been asked to open.
 class OpenedUrls : public QObject {
     Q_OBJECT
 
@@ -41,115 +43,72 @@ public slots:
 
 } // namespace
 
-TEST_F(BrowserTest, NavigateShowsThePlainPageFromItsTop)
+TEST_F(Browser, AJumpAddsThePlaceToTheAddressAndBackAndForwardWalkTheJumps)
 {
     EXPECT_EQ(browser.LocationURL(), page.address());
-    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
-    EXPECT_EQ(ScrollOf(view), 0);
-}
+    browser.GoBack();
+    EXPECT_EQ(browser.LocationURL(), page.address()) << "nothing to go back to";
 
-TEST_F(BrowserTest, AJumpInsideThePageAddsThePlaceToTheAddressAndScrolls)
-{
-    ClickLink(view, QStringLiteral("#second"));
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#second"));
-    EXPECT_GT(ScrollOf(view), 0);
-}
-
-TEST_F(BrowserTest, ALinkToThisPageByNameIsAJumpInsideIt)
-{
-    ClickLink(view, QStringLiteral("tavok.htm#second"));
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#second"));
-}
-
-TEST_F(BrowserTest, BackAndForwardWalkTheJumps)
-{
     ClickLink(view, QStringLiteral("#first"));
     const int first = ScrollOf(view);
-    browser.GoBack();
-    ClickLink(view, QStringLiteral("#second"));
+    ClickLink(view, QStringLiteral("tavok.htm#second"));
     const int second = ScrollOf(view);
+    EXPECT_EQ(browser.LocationURL(), at("#second"));
     ASSERT_GT(second, first);
+    ASSERT_GT(first, 0);
 
+    browser.GoBack();
+    EXPECT_EQ(browser.LocationURL(), at("#first"));
+    EXPECT_EQ(ScrollOf(view), first);
     browser.GoBack();
     EXPECT_EQ(browser.LocationURL(), page.address());
     EXPECT_EQ(ScrollOf(view), 0);
     browser.GoForward();
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#second"));
+    browser.GoForward();
+    browser.GoForward();
+    EXPECT_EQ(browser.LocationURL(), at("#second"));
     EXPECT_EQ(ScrollOf(view), second);
 }
 
-TEST_F(BrowserTest, AJumpCutsOffWhatLayForward)
+TEST_F(Browser, AJumpCutsOffWhatLayForward)
 {
     ClickLink(view, QStringLiteral("#first"));
-    ClickLink(view, QStringLiteral("#second"));
-    browser.GoBack();
     browser.GoBack();
     ClickLink(view, QStringLiteral("#second"));
     browser.GoForward();
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#second"));
+    EXPECT_EQ(browser.LocationURL(), at("#second"));
     browser.GoBack();
     EXPECT_EQ(browser.LocationURL(), page.address());
 }
 
-TEST_F(BrowserTest, StepsPastEitherEndOfTheHistoryDoNothing)
-{
-    browser.GoBack();
-    EXPECT_EQ(browser.LocationURL(), page.address());
-    ClickLink(view, QStringLiteral("#first"));
-    browser.GoForward();
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#first"));
-
-    WebBrowser blank;
-    blank.GoBack();
-    blank.GoForward();
-    EXPECT_TRUE(blank.LocationURL().isEmpty());
-}
-
-TEST_F(BrowserTest, LinksOutOfThePageOpenNothing)
+TEST_F(Browser, LinksOutOfThePageOpenNothing)
 {
     OpenedUrls opened;
-    const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
-                              QStringLiteral("mailto"), QStringLiteral("file")};
+    const QStringList schemes{"http", "https", "mailto", "file"};
     for (const QString& scheme : schemes)
         QDesktopServices::setUrlHandler(scheme, &opened, "open");
-
     for (const char* href : {"http://tavok.example/", "mailto:dravo@tavok.example", "other.htm"}) {
-        ASSERT_NE(LinkPoint(view, QString::fromLatin1(href)), QPoint(-1, -1)) << href;
-        ClickLink(view, QString::fromLatin1(href));
+        ASSERT_NE(LinkPoint(view, QLatin1String(href)), QPoint(-1, -1)) << href;
+        ClickLink(view, QLatin1String(href));
         EXPECT_EQ(browser.LocationURL(), page.address()) << href;
     }
-    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
-    EXPECT_EQ(opened.count, 0);
-
     for (const QString& scheme : schemes)
         QDesktopServices::unsetUrlHandler(scheme);
+    EXPECT_EQ(opened.count, 0);
+    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
 }
 
-TEST_F(BrowserTest, NavigateReadsTheFileAfreshEachTime)
+TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
 {
     page.rewrite(QStringLiteral("second version"));
     browser.Navigate(page.path());
     EXPECT_TRUE(PageShows(view, QStringLiteral("second version")));
-}
-
-TEST_F(BrowserTest, GoingBackAcrossAReloadKeepsThePageShown)
-{
-    ClickLink(view, QStringLiteral("#first"));
-    page.rewrite(QStringLiteral("second version"));
-    browser.Navigate(page.path());
-    browser.GoBack();
-    EXPECT_EQ(browser.LocationURL(), page.address() + QStringLiteral("#first"));
-    EXPECT_TRUE(PageShows(view, QStringLiteral("second version")));
-}
-
-TEST_F(BrowserTest, PicturesAreFoundBesideThePage)
-{
     const QVariant picture = view->document()->resource(QTextDocument::ImageResource,
                                                         QUrl(QStringLiteral("help/dot.png")));
     EXPECT_EQ(picture.value<QImage>().size(), QSize(12, 12));
 }
 
-TEST_F(BrowserTest, AMissingPageShowsAWordAndKeepsItsAddress)
+TEST_F(Browser, AMissingPageSaysSoAndKeepsItsAddress)
 {
     const QString missing = page.path() + QStringLiteral(".gone");
     browser.Navigate(missing);
@@ -157,12 +116,13 @@ TEST_F(BrowserTest, AMissingPageShowsAWordAndKeepsItsAddress)
     EXPECT_TRUE(PageShows(view, QStringLiteral("cannot be shown")));
 }
 
-TEST_F(BrowserTest, PlaceAndSizeAreInTwips)
+TEST_F(Browser, PlaceAndSizeAreInTwips)
 {
     const double perPixel = TwipsPerPixel(&browser);
     browser.Width(perPixel * 123);
     browser.Height(perPixel * 45);
     EXPECT_EQ(browser.size(), QSize(123, 45));
+    EXPECT_EQ(view->size(), QSize(123, 45));
     browser.move(10, 28);
     EXPECT_DOUBLE_EQ(browser.Top(), 28 * perPixel);
 }
