@@ -1,0 +1,35 @@
+#include "moveslist/anyvalue.h"
+
+#include "moveslist/listerror.h"
+#include "moveslist/listnumbers.h"
+
+double AnyValue::toNumber() const
+{
+    if (const double* number = std::get_if<double>(&value))
+        return *number;
+    if (const QString* text = std::get_if<QString>(&value))
+        return moveslist::NumericRead(*text);
+    return 0;
+}
+
+double AnyValue::toNumberStrict() const
+{
+    const QString* text = std::get_if<QString>(&value);
+    if (!text)
+        return toNumber();
+    bool ok = false;
+    const double number = text->trimmed().toDouble(&ok);
+    if (!ok)
+        throw ListError(ListErrorCode::TypeMismatch,
+                        QStringLiteral("Type mismatch: \"%1\" is not a number").arg(*text));
+    return number;
+}
+
+QString AnyValue::toText() const
+{
+    if (const QString* text = std::get_if<QString>(&value))
+        return *text;
+    if (const double* number = std::get_if<double>(&value))
+        return moveslist::NumberText(*number).trimmed();
+    return {};
+}

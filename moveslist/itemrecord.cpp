@@ -1,0 +1,26 @@
+#include "moveslist/itemrecord.h"
+
+#include "moveslist/listerror.h"
+
+namespace itemrecord {
+
+QStringList Split(const QString& record)
+{
+    return record.split(QLatin1Char('\t'));
+}
+
+QString Join(const QStringList& columns)
+{
+    return columns.join(QLatin1Char('\t'));
+}
+
+const QString& Column(const QStringList& columns, int c)
+{
+    if (c < 0 || c >= columns.size())
+        throw ListError(
+            ListErrorCode::SubscriptOutOfRange,
+            QStringLiteral("Subscript out of range: the record has no column %1").arg(c));
+    return columns[c];
+}
+
+} // namespace itemrecord

@@ -1,0 +1,5 @@
+#include "moveslist/listerror.h"
+
+ListError::ListError(int code, const QString& what)
+    : std::runtime_error(what.toStdString()), errorCode(code)
+{}

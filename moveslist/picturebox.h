@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QWidget>
+
+#include <cstdint>
+
+// A drawing surface of the list: Picture1 (the canvas), Picture2 (the row picture)
+// and Picture3 (one row's text). What is drawn goes into a kept image, which the
+// paint event only copies, so the rows survive being covered and uncovered. Drawing
+// coordinates are twips; BitBlt and the image are pixels.
+class PictureBox : public QWidget {
+    Q_OBJECT
+
+public:
+    // DrawMode values the list uses: 13 pen, 14 pen OR NOT destination, 6 NOT
+    // destination.
+    static constexpr int16_t CopyPen = 13;
+    static constexpr int16_t MergeNotPen = 14;
+    static constexpr int16_t Invert = 6;
+
+    // PaintPicture raster codes: AND with the destination, and a plain copy.
+    static constexpr uint32_t SourceAnd = 0x8800C6;
+    static constexpr uint32_t SourceCopy = 0xCC0020;
+
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    int32_t BackColor() const { return backColour; }
+    // Erases what was drawn, as a new back colour does on the desktop.
+    void BackColor(int32_t New_BackColor);
+    int32_t ForeColor() const { return foreColour; }
+    void ForeColor(int32_t New_ForeColor) { foreColour = New_ForeColor; }
+    // The font that Print and the measures use; it starts as the widget's own.
+    QString FontName() const { return drawFont.family(); }
+    void FontName(const QString& New_FontName) { drawFont.setFamily(New_FontName); }
+    float FontSize() const { return static_cast<float>(drawFont.pointSizeF()); }
+    void FontSize(float New_FontSize) { drawFont.setPointSizeF(New_FontSize); }
+    int16_t DrawMode() const { return drawMode; }
+    void DrawMode(int16_t New_DrawMode) { drawMode = New_DrawMode; }
+
+    // The screen's twips per pixel, read at each use.
+    double TwipsPerPixelX() const;
+    double TwipsPerPixelY() const;
+
+    void Cls();
+    void Print(const QString& text);
+    double TextWidth(const QString& text) const;
+    double TextHeight(const QString& text) const;
+    // A line from one point to the other, end point left out, under DrawMode.
+    void Line(QPointF from, QPointF to, int32_t colour);
+    // A filled box from one corner to the other, under DrawMode.
+    void FilledBox(QPointF from, QPointF to, int32_t colour);
+    // Paints a part of a picture under a raster code. A null picture or a source
+    // part outside it fails with ListError 481.
+    void PaintPicture(const QImage& picture, QPointF at, QSizeF size, QPointF sourceAt,
+                      QSizeF sourceSize, uint32_t rasterCode);
+    // Copies a block of pixels from another surface, source copy.
+    void BitBlt(int x, int y, int width, int height, const PictureBox& source, int sourceX,
+                int sourceY);
+
+    // Picture2's role: holds a picture and takes its size.
+    const QImage& Picture() const { return picture; }
+    void Picture(const QImage& New_Picture);
+
+    // What is drawn, as kept between paints.
+    const QImage& image() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // Brings the kept image to the widget's size, keeping what is drawn.
+    void syncImage() const;
+    int PixelX(double twips) const;
+    int PixelY(double twips) const;
+    QRect PixelRect(QPointF from, QPointF to) const;
+    void drawn(const QRect& area);
+
+    mutable QImage canvas;
+    QFont drawFont;
+    QImage picture;
+    int32_t backColour;
+    int32_t foreColour;
+    int16_t drawMode = CopyPen;
+    double currentY = 0;
+};

@@ -1,0 +1,154 @@
+#include "moveslist/usercontrol1.h"
+
+#include "moveslist/lbblock.h"
+#include "moveslist/listnumbers.h"
+#include "moveslist/olecolor.h"
+#include "moveslist/picturebox.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPolygon>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <qdrawutil.h>
+
+using moveslist::R;
+
+namespace {
+
+// The platform's default font, which nothing in the control changes; the desktop
+// substitutes its nearest face.
+constexpr const char* DefaultFontName = "MS Sans Serif";
+constexpr double DefaultFontSize = 8.25;
+
+// Heights the children have from their design.
+constexpr double Text1Height = 252;
+constexpr double Picture3Height = 315;
+
+// The drop button's picture: a black down arrow 11 pixels wide and 10 high, 2 in
+// from the left and 3 down, on a transparent ground.
+QPixmap DropArrow()
+{
+    QPixmap arrow(16, 16);
+    arrow.fill(Qt::transparent);
+    QPainter painter(&arrow);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawPolygon(QPolygon({QPoint(2, 3), QPoint(13, 3), QPoint(7, 13)}));
+    return arrow;
+}
+
+} // namespace
+
+UserControl1::UserControl1(QWidget* parent)
+    : QWidget(parent), surfaceBackColor(olecolor::ButtonFace),
+      surfaceForeColor(olecolor::ButtonText)
+{
+    QFont surfaceFont(QString::fromLatin1(DefaultFontName));
+    surfaceFont.setPointSizeF(DefaultFontSize);
+    setFont(surfaceFont);
+    setAutoFillBackground(true);
+    createChildren();
+    applySurfaceBackColor(surfaceBackColor);
+    applySurfaceBorder(surfaceBorderStyle);
+    UserControl_Initialize();
+}
+
+UserControl1* UserControl1::FromBlock(const QByteArray& block, QWidget* parent)
+{
+    const PropertyBag bag = lbblock::Read(block);
+    auto list = std::make_unique<UserControl1>(parent);
+    list->UserControl_ReadProperties(bag);
+    // The extent is kept in hundredths of a millimetre.
+    const double width = bag.ReadProperty(QStringLiteral("_ExtentX"), {}).toNumber();
+    const double height = bag.ReadProperty(QStringLiteral("_ExtentY"), {}).toNumber();
+    if (width > 0 && height > 0) {
+        const double twipsPerExtent = 1440.0 / 2540.0;
+        list->resize(int(R(width * twipsPerExtent / list->ScreenTwipsX())),
+                     int(R(height * twipsPerExtent / list->ScreenTwipsY())));
+        if (list->size() != list->laidOutSize)
+            list->UserControl_Resize();
+    }
+    return list.release();
+}
+
+void UserControl1::UserControl_Initialize()
+{
+    st.ItemCount = 0;
+    st.SelectedRow = -1;
+}
+
+void UserControl1::createChildren()
+{
+    Picture1 = new PictureBox(this);
+    Picture1->BackColor(olecolor::WindowBackground);
+    // The selection strip is drawn in this mode whether grid lines are on or not.
+    Picture1->DrawMode(PictureBox::Invert);
+
+    Picture2 = new PictureBox(this);
+    Picture2->hide();
+
+    Picture3 = new PictureBox(this);
+    Picture3->BackColor(olecolor::WindowBackground);
+    Picture3->hide();
+    setChildHeight(Picture3, Picture3Height);
+
+    Text1 = new QLineEdit(this);
+    setChildHeight(Text1, Text1Height);
+
+    VScroll1 = new QScrollBar(Qt::Vertical, this);
+    VScroll1->setRange(0, 0);
+    VScroll1->setSingleStep(1);
+    VScroll1->setPageStep(1);
+    // Dragging the thumb repaints when it is released.
+    VScroll1->setTracking(false);
+    connect(VScroll1, &QScrollBar::valueChanged, this, [this] { VScroll1_Change(); });
+
+    command1 = new QLabel(this);
+    command1->setPixmap(DropArrow());
+    command1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+const QImage& UserControl1::canvas() const
+{
+    return Picture1->image();
+}
+
+void UserControl1::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // A height written by the list itself has already been laid out inside the write.
+    if (size() != laidOutSize)
+        UserControl_Resize();
+}
+
+void UserControl1::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (surfaceBorderStyle != 1)
+        return;
+    QPainter painter(this);
+    qDrawShadePanel(&painter, rect(), palette(), true, borderPixels());
+}
+
+void UserControl1::applySurfaceBorder(int16_t style)
+{
+    surfaceBorderStyle = style;
+    const int border = borderPixels();
+    setContentsMargins(border, border, border, border);
+    update();
+}
+
+void UserControl1::applySurfaceBackColor(int32_t colour)
+{
+    surfaceBackColor = colour;
+    QPalette surface = palette();
+    surface.setColor(QPalette::Window, olecolor::ToQColor(colour));
+    setPalette(surface);
+}
+
+int UserControl1::borderPixels() const
+{
+    return surfaceBorderStyle == 1 ? 2 : 0;
+}

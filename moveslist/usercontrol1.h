@@ -1,0 +1,193 @@
+#pragma once
+
+#include "moveslist/anyvalue.h"
+#include "moveslist/imagelist.h"
+#include "moveslist/liststate.h"
+#include "moveslist/propertybag.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+#include <memory>
+
+class PictureBox;
+class QLabel;
+class QLineEdit;
+class QScrollBar;
+
+// The owner-drawn list that holds the game's log (MovesList): text rows, each with
+// its own colour, font name, item data and picture, drawn once onto a kept canvas.
+// Lengths are twips, colours 0x00BBGGRR or a system colour with the top bit set.
+// Item numbers count from 1; the `it` of an item operation counts from 0.
+//
+// Failures of the platform pass to the caller as ListError (codes in listerror.h);
+// an index out of range is no failure and is ignored.
+//
+// Writing the scroll bar's value or the control's height runs VScroll1_Change or
+// UserControl_Resize inside that write; Additem relies on that order.
+class UserControl1 : public QWidget {
+    Q_OBJECT
+    friend class ListProbe;
+
+public:
+    // Runs UserControl_Initialize only: the host then reads or initialises the
+    // properties, as a form does when it loads an instance.
+    explicit UserControl1(QWidget* parent = nullptr);
+    // A control loaded from its stored "-LB" block: properties read, then sized to
+    // the block's extent. Its rows show once Mode is assigned.
+    static UserControl1* FromBlock(const QByteArray& block, QWidget* parent = nullptr);
+
+    bool Enabled() const;
+    void Enabled(bool New_Enabled);
+
+    // itemx: 0 or below appends, -1 puts the item first, k from 1 puts it at index
+    // k. ipic and ItemColor come back as the list settled them (-1: take the last
+    // item's). Overflow past 32,768 items is ListError 6, after the item is stored.
+    void Additem(QString& s, int16_t itemx, int16_t& ipic, QString& ItemFont, int32_t& ItemColor);
+    void Additem(QString& s, int16_t itemx = 0);
+    void RemoveItem(const AnyValue& it);
+
+    std::shared_ptr<ImageList> PictureList() const;
+    void PictureList(std::shared_ptr<ImageList> New_PictureList);
+
+    AnyValue ListCount() const;
+    // Always refused: ListError 387 at design time, 382 at run time.
+    [[noreturn]] void ListCount(const AnyValue& New_ListCount);
+
+    QString Fontname() const;
+    void Fontname(const QString& New_Fontname);
+    float FontSize() const;
+    void FontSize(float New_FontSize);
+    int32_t forecolor() const;
+    void forecolor(int32_t New_forecolor);
+    bool GridLines() const;
+    void GridLines(bool New_GridLines);
+    int16_t BorderStyle() const;
+    void BorderStyle(int16_t New_BorderStyle);
+    int16_t DropDownHeight() const;
+    void DropDownHeight(int16_t New_DropDownHeight);
+    int16_t Mode() const;
+    void Mode(int16_t New_Mode);
+    AnyValue RowHeight() const;
+    // Below 1 is ListError 380: the rows are cut to whole rows by dividing by it.
+    void RowHeight(const AnyValue& New_RowHeight);
+
+    AnyValue GetItemData(const AnyValue& i) const;
+    // it -1 names the item added last.
+    void SetItemData(AnyValue it, const AnyValue& valuex);
+    AnyValue List(const AnyValue& it) const;
+    void List(const AnyValue& it, const AnyValue& New_List);
+    AnyValue text() const;
+    void text(const AnyValue& New_text);
+    AnyValue ListIndex() const;
+    // Refused at design time with ListError 387, before anything is stored.
+    void ListIndex(const AnyValue& New_ListIndex);
+    int16_t DrawStyle() const;
+    void DrawStyle(int16_t New_DrawStyle);
+    int32_t BackColor() const;
+    void BackColor(int32_t New_BackColor);
+    int32_t GridColor() const;
+    void GridColor(int32_t New_GridColor);
+    void Clear();
+    bool ToolTip() const;
+    void ToolTip(bool New_ToolTip);
+
+    // The property exchange with the host's stored block.
+    void UserControl_InitProperties();
+    void UserControl_ReadProperties(const PropertyBag& PropBag);
+    void UserControl_WriteProperties(PropertyBag& PropBag) const;
+
+    // Run time unless told otherwise; design time changes what some setters refuse.
+    bool designTime() const { return inDesign; }
+    void setDesignTime(bool design) { inDesign = design; }
+
+    const ListState& state() const { return st; }
+    // Picture1's kept pixels, as the rows were last drawn.
+    const QImage& canvas() const;
+
+signals:
+    void MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void KeyDown(int16_t& KeyCode, int16_t& Shift);
+    void KeyPress(int16_t& KeyAscii);
+    void KeyUp(int16_t& KeyCode, int16_t& Shift);
+    void Click();
+    void MouseDown(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    // A stored property changed; the host's block is out of date.
+    void PropertyChanged(const QString& PropertyName);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void UserControl_Initialize();
+    void createChildren();
+
+    // Store.
+    void AdditemInsert(QString& s, int16_t itemx, int16_t ipic, int32_t ItemColor, bool topInsert);
+    void AdditemAppend(QString& s, int16_t ipic, int32_t ItemColor);
+    QString NewRecord(const QString& s, int16_t ipic, int32_t ItemColor,
+                      const QString& width) const;
+    void setScrollMaximum(int32_t maximum);
+    int32_t EntryOf(const AnyValue& it) const;
+    QString LastAddedIndex() const;
+    void LastAddedIndex(const QString& index);
+    QString ChosenIndex() const;
+    void ChosenIndex(const QString& index);
+
+    // Painting.
+    void DrawRows(int16_t first, int16_t last);
+    void DrawOneRow(int16_t row);
+    void DrawItem(int32_t item, int32_t counter);
+    void DrawRow(int32_t rowInView, const QString& text, const QString& font, const QString& colour,
+                 int16_t y, int32_t& width);
+    void DrawRowText(int x, int y, const QString& text, const QString& colour, const QString& font,
+                     int32_t& width);
+    void DrawRowPicture(int16_t y);
+    void DrawGridLine(int32_t rowInView);
+    void InvertRowStrip(int16_t row);
+    void LoadRowPicture(double index);
+
+    // Layout and scrolling.
+    void UserControl_Resize();
+    void VScroll1_Change();
+    void FirstItemSetup();
+    void FitRows();
+    void ModeCommonSteps();
+    void ModeListBranch();
+    void setScrollValue(int value);
+    double ScreenTwipsX() const;
+    double ScreenTwipsY() const;
+    float ButtonWidth() const;
+    float SideGap() const;
+    double ControlWidthTwips() const;
+    void setControlHeight(double twips);
+    void setChildLeft(QWidget* child, double twips);
+    void setChildTop(QWidget* child, double twips);
+    void setChildWidth(QWidget* child, double twips);
+    void setChildHeight(QWidget* child, double twips);
+    double childWidth(const QWidget* child) const;
+    double childHeight(const QWidget* child) const;
+    int borderPixels() const;
+
+    void applySurfaceBorder(int16_t style);
+    void applySurfaceBackColor(int32_t colour);
+
+    ListState st;
+    bool inDesign = false;
+    int16_t surfaceBorderStyle = 1;
+    int32_t surfaceBackColor;
+    int32_t surfaceForeColor;
+    QSize laidOutSize;
+
+    PictureBox* Picture1 = nullptr;
+    PictureBox* Picture2 = nullptr;
+    PictureBox* Picture3 = nullptr;
+    QLineEdit* Text1 = nullptr;
+    QScrollBar* VScroll1 = nullptr;
+    QLabel* command1 = nullptr;
+};

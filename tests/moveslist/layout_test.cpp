@@ -1,0 +1,234 @@
+#include "list_probe.h"
+
+#include "moveslist/listerror.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void AddOnTop(UserControl1& list, const QString& text)
+{
+    QString s = text;
+    list.Additem(s, -1);
+}
+
+// The row measures the first line gives, worked out from the font on this desktop.
+struct RowMeasures {
+    int rowTwips;
+    int rows;
+    int viewHeight;
+};
+
+RowMeasures ExpectedMeasures(const UserControl1& list, int dropDownHeight, int borderStyle)
+{
+    const double across = TwipsPerPixelX();
+    const int rowTwips = static_cast<int>(HalfEven(HalfEven(MeasuredTextHeight(list)) * 1.2));
+    const int rows = dropDownHeight / rowTwips;
+    double height = rows * rowTwips + across * 24 / 12;
+    if (borderStyle == 0)
+        height -= across * 48 / 12;
+    return {rowTwips, rows, static_cast<int>(HalfEven(height))};
+}
+
+class MovesListLayout : public ::testing::Test {
+protected:
+    std::unique_ptr<UserControl1> list = MovesListAsSetUp();
+    ListProbe probe{*list};
+};
+
+TEST_F(MovesListLayout, ModeShowsTheListWithTheStoredBorderAllowance)
+{
+    // BorderStyle 0 came after Mode, so the height still has the bordered allowance.
+    EXPECT_FALSE(probe.canvasHidden());
+    EXPECT_FALSE(probe.scrollBarHidden());
+    EXPECT_EQ(list->height(), PixelsDown(3750 + 48));
+    EXPECT_EQ(probe.canvasHeight(), PixelsDown(3750));
+    EXPECT_EQ(list->state().TopRow, -1);
+}
+
+TEST_F(MovesListLayout, TheFirstLineMeasuresTheRowsFromTheFont)
+{
+    const RowMeasures expected = ExpectedMeasures(*list, 3750, 0);
+    AddOnTop(*list, "first line");
+    const ListState& st = list->state();
+    EXPECT_EQ(st.RowTwips, expected.rowTwips);
+    EXPECT_EQ(st.TextTwips, expected.rowTwips);
+    EXPECT_EQ(st.RowsInView, expected.rows);
+    EXPECT_EQ(st.ViewHeight, expected.viewHeight);
+    EXPECT_EQ(st.PixelTwipsY, HalfEven(TwipsPerPixelY()));
+    EXPECT_EQ(probe.canvasHeight(), PixelsDown(expected.viewHeight));
+    EXPECT_EQ(list->height(), PixelsDown(double(expected.rowTwips) * expected.rows));
+    // The new height ran the layout inside the write, which left TopRow at -1.
+    EXPECT_EQ(st.TopRow, -1);
+    EXPECT_EQ(st.BottomRow, 1);
+    if (MeasuredTextHeight(*list) == 195 && TwipsPerPixelY() == 15) {
+        EXPECT_EQ(st.RowTwips, 234);
+        EXPECT_EQ(st.RowsInView, 16);
+        EXPECT_EQ(st.ViewHeight, 3714);
+    }
+}
+
+TEST_F(MovesListLayout, EachLineOnTopRepaintsFromItemOneAndLeavesTheThumb)
+{
+    for (int i = 1; i <= 3; ++i)
+        AddOnTop(*list, QStringLiteral("line %1").arg(i));
+    EXPECT_EQ(list->List(0), AnyValue("line 3"));
+    EXPECT_EQ(list->state().TopRow, 1);
+    EXPECT_EQ(list->state().BottomRow, 3);
+    EXPECT_EQ(probe.scrollMaximum(), 2);
+    probe.setScrollValue(1);
+    AddOnTop(*list, "line 4");
+    EXPECT_EQ(list->state().TopRow, 1);
+    EXPECT_EQ(probe.scrollValue(), 1);
+}
+
+TEST_F(MovesListLayout, ASecondFirstItemLeavesTheMeasuresAlone)
+{
+    AddOnTop(*list, "first");
+    const ListState before = list->state();
+    list->Clear();
+    AddOnTop(*list, "first again");
+    EXPECT_EQ(list->state().RowTwips, before.RowTwips);
+    EXPECT_EQ(list->state().RowsInView, before.RowsInView);
+    EXPECT_EQ(list->state().ViewHeight, before.ViewHeight);
+}
+
+TEST(RowHeight, SetBeforeTheFirstItemIsHonoured)
+{
+    auto list = LoadedList();
+    list->DropDownHeight(3000);
+    list->Mode(0);
+    list->RowHeight(300);
+    const ListState& st = list->state();
+    EXPECT_EQ(st.RowTwips, 300);
+    EXPECT_EQ(st.RowsInView, 10);
+    EXPECT_EQ(st.ViewHeight, HalfEven(3000 + TwipsPerPixelX() * 2));
+    AppendItems(*list, 1);
+    EXPECT_EQ(st.RowTwips, 300);
+    EXPECT_EQ(list->RowHeight(), AnyValue(300));
+}
+
+TEST(RowHeight, ReadsWhatWasAssignedAndRefusesZero)
+{
+    auto list = LoadedList();
+    list->DropDownHeight(3000);
+    list->Mode(0);
+    AppendItems(*list, 1);
+    EXPECT_EQ(list->RowHeight(), AnyValue(0));
+    const ListState before = list->state();
+    EXPECT_EQ(ErrorCode([&] { list->RowHeight(0); }), ListErrorCode::InvalidPropertyValue);
+    EXPECT_EQ(list->state().RowTwips, before.RowTwips);
+    EXPECT_EQ(list->RowHeight(), AnyValue(0));
+}
+
+TEST(RowHeight, FittingTwiceWithoutBorderLosesARow)
+{
+    auto list = LoadedList();
+    list->BorderStyle(0);
+    list->DropDownHeight(3000);
+    list->RowHeight(250);
+    const int16_t firstFit = list->state().ViewHeight;
+    EXPECT_EQ(list->state().RowsInView, 3000 / 250);
+    EXPECT_LT(firstFit, 3000);
+    list->RowHeight(250);
+    EXPECT_EQ(list->state().RowsInView, firstFit / 250);
+    EXPECT_EQ(list->state().RowsInView, 3000 / 250 - 1);
+}
+
+TEST(RowHeight, SetAfterTheFirstItemKeepsTheCanvasHeight)
+{
+    auto list = MovesListAsSetUp();
+    ListProbe probe(*list);
+    AppendItems(*list, 3);
+    const int canvasHeight = probe.canvasHeight();
+    const int16_t rows = list->state().RowsInView;
+    list->RowHeight(list->state().RowTwips * 2);
+    EXPECT_EQ(probe.canvasHeight(), canvasHeight);
+    EXPECT_LT(list->state().RowsInView, rows);
+}
+
+class Scrolling : public ::testing::Test {
+protected:
+    void SetUp() override { AppendItems(*list, 40); }
+
+    std::unique_ptr<UserControl1> list = MovesListAsSetUp();
+    ListProbe probe{*list};
+};
+
+TEST_F(Scrolling, TheValueNamesTheTopItemAndOneRowMoreIsDrawn)
+{
+    const int16_t rows = list->state().RowsInView;
+    probe.setScrollValue(3);
+    EXPECT_EQ(list->state().TopRow, 4);
+    EXPECT_EQ(list->state().BottomRow, 4 + rows);
+    EXPECT_EQ(list->state().SelectedRow, -1);
+    // The last item alone can stand at the top.
+    probe.setScrollValue(39);
+    EXPECT_EQ(list->state().TopRow, 40);
+    EXPECT_EQ(list->state().BottomRow, 40);
+}
+
+TEST_F(Scrolling, AdditemAfterClearPullsTheBarDownAndRepaintsInsideTheCall)
+{
+    probe.setScrollValue(10);
+    list->Clear();
+    EXPECT_EQ(list->state().TopRow, 11);
+    QString s = QStringLiteral("fresh");
+    list->Additem(s, -1);
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_EQ(list->state().TopRow, 1);
+    EXPECT_EQ(list->state().BottomRow, 1);
+}
+
+TEST_F(Scrolling, AResizeMovesAListOfItemsToValueOne)
+{
+    list->show();
+    list->resize(list->width() + 10, list->height());
+    EXPECT_EQ(probe.scrollValue(), 1);
+    EXPECT_EQ(list->state().TopRow, 2);
+    // Already there: no repaint, and TopRow stays unpainted.
+    list->resize(list->width() + 10, list->height());
+    EXPECT_EQ(probe.scrollValue(), 1);
+    EXPECT_EQ(list->state().TopRow, -1);
+}
+
+TEST(Resizing, OneItemStaysAtTheTop)
+{
+    auto list = MovesListAsSetUp();
+    ListProbe probe(*list);
+    AppendItems(*list, 1);
+    list->show();
+    list->resize(list->width() + 10, list->height());
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_EQ(list->state().TopRow, -1);
+}
+
+TEST(Resizing, TheHostsHeightMovesNothingInside)
+{
+    auto list = MovesListAsSetUp();
+    ListProbe probe(*list);
+    AppendItems(*list, 2);
+    const int canvasHeight = probe.canvasHeight();
+    const ListState before = list->state();
+    list->show();
+    list->resize(list->width(), list->height() + 50);
+    EXPECT_EQ(probe.canvasHeight(), canvasHeight);
+    EXPECT_EQ(list->state().RowsInView, before.RowsInView);
+    EXPECT_EQ(list->state().ViewHeight, before.ViewHeight);
+}
+
+TEST(Resizing, AWiderControlRefitsTheCanvasAndKeepsItsRows)
+{
+    auto list = MovesListAsSetUp();
+    ListProbe probe(*list);
+    AppendItems(*list, 1);
+    const QImage before = list->canvas().copy();
+    const int scrollBar = list->width() - probe.canvasWidth();
+    list->show();
+    list->resize(list->width() + 40, list->height());
+    EXPECT_EQ(probe.canvasWidth(), before.width() + 40);
+    EXPECT_EQ(list->width() - probe.canvasWidth(), scrollBar);
+    EXPECT_EQ(list->canvas().copy(before.rect()), before);
+}
+
+} // namespace

@@ -1,0 +1,285 @@
+#include "list_probe.h"
+
+#include "moveslist/itemrecord.h"
+#include "moveslist/listerror.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+constexpr int32_t White = 0x00FFFFFF;
+constexpr QRgb WhitePixel = 0xFFFFFFFF;
+
+bool Ink(QRgb pixel)
+{
+    return (pixel & 0xFFFFFF) != 0xFFFFFF;
+}
+
+// Where the ink of a text starts when it is printed with its top at (0, 0), worked out
+// on an image of our own.
+QPoint InkOffset(const QFont& font, const QString& text)
+{
+    QImage image(200, 60, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+        QPainter painter(&image);
+        painter.setFont(font);
+        painter.setPen(Qt::black);
+        painter.drawText(QPoint(0, QFontMetrics(font, &image).ascent()), text);
+    }
+    QPoint first(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (Ink(image.pixel(x, y)))
+                first = QPoint(std::min(first.x(), x), std::min(first.y(), y));
+    return first;
+}
+
+// The first inked pixel row and column inside the rows [top, bottom) of the canvas.
+std::optional<QPoint> FirstInk(const QImage& canvas, int top, int bottom)
+{
+    std::optional<QPoint> first;
+    for (int y = std::max(0, top); y < std::min(bottom, canvas.height()); ++y)
+        for (int x = 0; x < canvas.width(); ++x)
+            if (Ink(canvas.pixel(x, y))) {
+                if (!first)
+                    first = QPoint(x, y);
+                first->setX(std::min(first->x(), x));
+            }
+    return first;
+}
+
+class Painting : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        list->DropDownHeight(3000);
+        list->Mode(0);
+        list->BackColor(White);
+    }
+
+    void addRows(int n, int32_t colour = 0)
+    {
+        for (int i = 0; i < n; ++i) {
+            QString s = QStringLiteral("MMMM");
+            int16_t ipic = -1;
+            QString font;
+            int32_t c = colour;
+            list->Additem(s, 0, ipic, font, c);
+        }
+    }
+
+    QFont rowFont() const
+    {
+        QFont font(list->state().ItemFontName);
+        font.setPointSizeF(list->FontSize());
+        return font;
+    }
+
+    // Top pixel of the text of canvas row k: the text is centred in its row, and each
+    // row is brought to a whole pixel by itself.
+    int textTop(int k) const
+    {
+        const ListState& st = list->state();
+        const double top = HalfEven((st.RowTwips - st.TextTwips) / 2.0 + k * st.RowTwips);
+        return static_cast<int>(HalfEven(top / HalfEven(TwipsPerPixelY())));
+    }
+
+    void expectTextRows(int rows)
+    {
+        const QPoint ink = InkOffset(rowFont(), QStringLiteral("MMMM"));
+        const int left = static_cast<int>(HalfEven(48 / HalfEven(TwipsPerPixelX())));
+        for (int k = 0; k < rows; ++k) {
+            const auto found = FirstInk(list->canvas(), textTop(k), textTop(k + 1));
+            ASSERT_TRUE(found) << "row " << k;
+            EXPECT_EQ(found->y(), textTop(k) + ink.y()) << "row " << k;
+            EXPECT_EQ(found->x(), left + ink.x()) << "row " << k;
+        }
+    }
+
+    std::unique_ptr<UserControl1> list = LoadedList();
+    ListProbe probe{*list};
+};
+
+TEST_F(Painting, TextRowsStandAtTheirOwnWholePixel)
+{
+    list->RowHeight(234);
+    addRows(5);
+    // With 15 twips to the pixel the rows start at pixels 0, 16, 31, 47 and 62.
+    if (TwipsPerPixelY() == 15 && list->state().TextTwips == 234) {
+        EXPECT_EQ(textTop(2), 31);
+        EXPECT_EQ(textTop(4), 62);
+    }
+    expectTextRows(5);
+}
+
+TEST_F(Painting, ATallerRowCentresItsText)
+{
+    list->RowHeight(300);
+    addRows(4);
+    ASSERT_GT(textTop(0), 0);
+    expectTextRows(4);
+}
+
+TEST_F(Painting, TheRowsColumnFiveHoldsItsDrawnWidth)
+{
+    const QString wide(300, QLatin1Char('W'));
+    QString s = wide;
+    list->Additem(s);
+    const double width =
+        HalfEven(QFontMetrics(rowFont()).horizontalAdvance(wide) * TwipsPerPixelX());
+    EXPECT_EQ(probe.column(1, itemrecord::DrawnWidth), QString(" %1").arg(width));
+    // Cut at the canvas' edge, with its full width kept for the tip.
+    EXPECT_GT(width, probe.canvasWidth() * TwipsPerPixelX());
+    const QImage& canvas = list->canvas();
+    bool inkAtTheEdge = false;
+    for (int y = 0; y < PixelsDown(list->state().RowTwips); ++y)
+        inkAtTheEdge = inkAtTheEdge || Ink(canvas.pixel(canvas.width() - 2, y)) ||
+                       Ink(canvas.pixel(canvas.width() - 4, y));
+    EXPECT_TRUE(inkAtTheEdge);
+}
+
+TEST_F(Painting, RowsPastTheLastItemStayBlank)
+{
+    addRows(3);
+    probe.DrawRows(1, 10);
+    EXPECT_EQ(list->state().BottomRow, 3);
+    const auto below = FirstInk(list->canvas(), textTop(3), list->canvas().height());
+    EXPECT_FALSE(below);
+    // first above last clears and still sets the bounds.
+    probe.DrawRows(3, 2);
+    EXPECT_FALSE(FirstInk(list->canvas(), 0, list->canvas().height()));
+    EXPECT_EQ(list->state().TopRow, 3);
+    EXPECT_EQ(list->state().BottomRow, 2);
+}
+
+TEST_F(Painting, AHiddenCanvasTakesOneRowButNoRepaint)
+{
+    addRows(3);
+    probe.DrawRows(2, 3);
+    probe.hideCanvas();
+    const QImage before = list->canvas().copy();
+    probe.DrawRows(1, 3);
+    EXPECT_EQ(list->canvas(), before);
+    EXPECT_EQ(list->state().TopRow, 2);
+    probe.DrawOneRow(3);
+    EXPECT_NE(list->canvas(), before);
+    EXPECT_EQ(list->state().BottomRow, 3);
+}
+
+TEST_F(Painting, TheGridLineStandsTwoPixelsAboveTheRowsEnd)
+{
+    list->GridLines(true);
+    addRows(4);
+    const QImage& canvas = list->canvas();
+    const int x = canvas.width() - 2;
+    for (int k = 0; k < 4; ++k) {
+        const double rowEnd = (k + 1.0) * list->state().RowTwips;
+        const int line = PixelsDown(rowEnd - 2 * TwipsPerPixelY());
+        EXPECT_EQ(line, PixelsDown(rowEnd) - 2);
+        EXPECT_EQ(canvas.pixel(x, line), 0xFF000000) << "row " << k;
+        EXPECT_EQ(canvas.pixel(x, line - 1), WhitePixel) << "row " << k;
+        EXPECT_EQ(canvas.pixel(x, line + 1), WhitePixel) << "row " << k;
+        EXPECT_EQ(canvas.pixel(0, line), 0xFF000000) << "row " << k;
+    }
+}
+
+TEST_F(Painting, TheGridColourIsOrdWithTheInverseOfTheGround)
+{
+    list->GridLines(true);
+    list->GridColor(0x000000FF);
+    addRows(1);
+    const int line = PixelsDown(list->state().RowTwips - 2 * TwipsPerPixelY());
+    EXPECT_EQ(list->canvas().pixel(1, line), qRgb(255, 0, 0));
+    // On a black ground NOT destination is white, whatever the pen adds to it.
+    list->BackColor(0);
+    probe.DrawRows(1, 1);
+    EXPECT_EQ(list->canvas().pixel(1, line), WhitePixel);
+}
+
+TEST_F(Painting, TheStripIsInvertedByOneCallAndRestoredByTheNext)
+{
+    list->GridLines(true);
+    addRows(4);
+    const QImage before = list->canvas().copy();
+    probe.InvertRowStrip(1);
+    const QImage& after = list->canvas();
+    const double rowTwips = list->state().RowTwips;
+    const int top = PixelsDown(rowTwips - 24);
+    const int bottom = PixelsDown(2 * rowTwips);
+    for (int y = 0; y < after.height(); ++y)
+        for (int x = 0; x < after.width(); ++x) {
+            const QRgb was = before.pixel(x, y) & 0xFFFFFF;
+            const QRgb is = after.pixel(x, y) & 0xFFFFFF;
+            if (y >= top && y < bottom)
+                ASSERT_EQ(is, ~was & 0xFFFFFF) << x << ", " << y;
+            else
+                ASSERT_EQ(is, was) << x << ", " << y;
+        }
+    probe.InvertRowStrip(1);
+    EXPECT_EQ(list->canvas(), before);
+}
+
+class RowPictures : public Painting {
+protected:
+    void SetUp() override
+    {
+        Painting::SetUp();
+        // Yellow ground, cyan picture: AND gives green, a plain copy cyan.
+        list->BackColor(0x0000FFFF);
+        list->RowHeight(234);
+        list->DrawStyle(1);
+        list->PictureList(pictures);
+    }
+
+    void addPictureRow(int width, int height)
+    {
+        QImage picture(width, height, QImage::Format_RGB32);
+        picture.fill(qRgb(0, 255, 255));
+        pictures->Add(picture);
+        QString s = QStringLiteral("with picture");
+        int16_t ipic = static_cast<int16_t>(pictures->Count());
+        QString font;
+        int32_t colour = 0;
+        list->Additem(s, 0, ipic, font, colour);
+    }
+
+    // A point inside the picture's place on the first row.
+    QRgb pictureArea() const
+    {
+        return list->canvas().pixel(static_cast<int>(HalfEven(24 / TwipsPerPixelX())) + 2, 3) &
+               0xFFFFFF;
+    }
+
+    std::shared_ptr<ImageList> pictures = std::make_shared<ImageList>();
+};
+
+TEST_F(RowPictures, APictureIsAndedWithTheRow)
+{
+    addPictureRow(40, 40);
+    EXPECT_EQ(pictureArea(), 0x00FF00u);
+    EXPECT_EQ(
+        probe.column(1, itemrecord::DrawnWidth).toInt() -
+            HalfEven(QFontMetrics(rowFont()).horizontalAdvance("with picture") * TwipsPerPixelX()),
+        234 + 96);
+}
+
+TEST_F(RowPictures, APictureTooSmallForAndIsCopied)
+{
+    const int width = static_cast<int>(HalfEven(234 / TwipsPerPixelX()));
+    ASSERT_LT(width, HalfEven(254 / TwipsPerPixelX()));
+    addPictureRow(width, width);
+    EXPECT_EQ(pictureArea(), 0x00FFFFu);
+}
+
+TEST_F(RowPictures, APictureThatCannotBePaintedAtAllFailsTheCall)
+{
+    EXPECT_EQ(ErrorCode([&] { addPictureRow(4, 4); }), ListErrorCode::InvalidPicture);
+}
+
+} // namespace
