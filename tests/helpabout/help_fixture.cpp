@@ -30,7 +30,7 @@ void TestPage::rewrite(const QString& marker)
                                         "<a href=\"#second\">Second</a> "
                                         "<a href=\"http://tavok.example/\">Web</a> "
                                         "<a href=\"mailto:dravo@tavok.example\">Mail</a> "
-                                        "<a href=\"other.htm\">Other</a> "
+                                        "<a href=\"other.htm#first\">Other</a> "
                                         "<a href=\"tavok.htm#second\">Again</a></p>%2"
                                         "<h2><a name=\"first\">First place</a></h2>%2"
                                         "<h2><a name=\"second\">Second place</a></h2>%2"

@@ -87,7 +87,8 @@ TEST_F(Browser, LinksOutOfThePageOpenNothing)
     const QStringList schemes{"http", "https", "mailto", "file"};
     for (const QString& scheme : schemes)
         QDesktopServices::setUrlHandler(scheme, &opened, "open");
-    for (const char* href : {"http://tavok.example/", "mailto:dravo@tavok.example", "other.htm"}) {
+    for (const char* href :
+         {"http://tavok.example/", "mailto:dravo@tavok.example", "other.htm#first"}) {
         ASSERT_NE(LinkPoint(view, QLatin1String(href)), QPoint(-1, -1)) << href;
         ClickLink(view, QLatin1String(href));
         EXPECT_EQ(browser.LocationURL(), page.address()) << href;
