@@ -3,236 +3,168 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPixmap>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-const QColor Face(212, 208, 200);
-const QColor Top(255, 255, 255);
-const QColor LeftEdge(250, 250, 0);
-const QColor RightEdge(0, 0, 128);
-const QColor Bottom(64, 64, 64);
+const QColor Face(212, 208, 200), TopEdge(255, 255, 255), LeftEdge(250, 250, 0),
+    RightEdge(0, 0, 128), BottomEdge(64, 64, 64);
 
-// A pot: 555 twips square, its edges each in a colour of its own.
-struct Pot {
-    Pot()
+// A pot, 555 twips square, each edge in a colour of its own.
+struct Pot : Quillet {
+    explicit Pot(QWidget* parent = nullptr) : Quillet(parent)
     {
-        face.Move(0, 0, 555, 555);
-        face.backcolor(Face);
-        face.bordertop(Top);
-        face.borderleft(LeftEdge);
-        face.borderright(RightEdge);
-        face.borderbottom(Bottom);
+        Move(0, 0, 555, 555);
+        backcolor(Face);
+        bordertop(TopEdge);
+        borderleft(LeftEdge);
+        borderright(RightEdge);
+        borderbottom(BottomEdge);
     }
-    Quillet face;
 };
 
 QImage rendered(QWidget& widget, qreal ratio = 1.0)
 {
     QImage image(widget.size() * ratio, QImage::Format_ARGB32);
     image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
     widget.render(&image);
     return image;
 }
 
-// One device pixel in each colour, in turn: any smoothing mixes them and shows.
-QPixmap checkered(int side, qreal ratio)
-{
-    QImage image(side, side, QImage::Format_ARGB32);
-    for (int y = 0; y < side; ++y)
-        for (int x = 0; x < side; ++x)
-            image.setPixelColor(x, y, (x + y) % 2 ? Qt::black : Qt::yellow);
-    QPixmap picture = QPixmap::fromImage(image);
-    picture.setDevicePixelRatio(ratio);
-    return picture;
-}
-
-// A picture with a clear margin round an opaque middle.
-QPixmap framedInClear(int side, int margin, const QColor& middle)
+// A clear margin round an opaque middle.
+QPixmap framedInClear(int side, int margin)
 {
     QImage image(side, side, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.fillRect(margin, margin, side - 2 * margin, side - 2 * margin, middle);
-    painter.end();
+    QPainter(&image).fillRect(margin, margin, side - 2 * margin, side - 2 * margin, Qt::blue);
     return QPixmap::fromImage(image);
 }
 
-int widthOfColour(const QImage& image, int y, const QColor& colour)
+int blueAcrossTheMiddle(const QImage& image)
 {
     int count = 0;
     for (int x = 0; x < image.width(); ++x)
-        count += image.pixelColor(x, y) == colour;
+        count += image.pixelColor(x, image.height() / 2) == QColor(Qt::blue);
     return count;
 }
 
 } // namespace
 
-TEST(QuilletFace, EachEdgeShowsItsOwnColourRoundTheBackColour)
+TEST(QuilletFace, EachEdgeIsOnePixelOfItsOwnColourAtRatioOneAndTwo)
 {
     Pot pot;
-    const QImage image = rendered(pot.face);
-    const int w = image.width(), h = image.height();
-
-    EXPECT_EQ(image.pixelColor(w / 2, 0), Top);
-    EXPECT_EQ(image.pixelColor(0, h / 2), LeftEdge);
-    EXPECT_EQ(image.pixelColor(w - 1, h / 2), RightEdge);
-    EXPECT_EQ(image.pixelColor(w / 2, h - 1), Bottom);
-    EXPECT_EQ(image.pixelColor(1, 1), Face);
-    EXPECT_EQ(image.pixelColor(w - 2, h - 2), Face);
+    for (int ratio : {1, 2}) {
+        const QImage image = rendered(pot, ratio);
+        const int w = image.width(), h = image.height();
+        EXPECT_EQ(image.pixelColor(w / 2, ratio - 1), TopEdge);
+        EXPECT_EQ(image.pixelColor(ratio - 1, h / 2), LeftEdge);
+        EXPECT_EQ(image.pixelColor(w - ratio, h / 2), RightEdge);
+        EXPECT_EQ(image.pixelColor(w / 2, h - ratio), BottomEdge);
+        EXPECT_EQ(image.pixelColor(w / 2, ratio), Face);
+        EXPECT_EQ(image.pixelColor(w - 1 - ratio, h - 1 - ratio), Face);
+    }
 }
 
-TEST(QuilletFace, EdgesAreOnePixelWideAtRatioTwo)
-{
-    Pot pot;
-    const QImage image = rendered(pot.face, 2.0);
-
-    EXPECT_EQ(image.pixelColor(image.width() / 2, 1), Top);
-    EXPECT_EQ(image.pixelColor(image.width() / 2, 2), Face);
-    EXPECT_EQ(image.pixelColor(image.width() - 2, image.height() / 2), RightEdge);
-    EXPECT_EQ(image.pixelColor(image.width() - 3, image.height() / 2), Face);
-}
-
-TEST(QuilletFace, PressedFaceSinksAndComesBackRaisedWhenTurnedOff)
+TEST(QuilletFace, HeldDownItSinksAndTurnedOffItComesBackRaised)
 {
     QWidget surface;
-    surface.resize(100, 100);
-    auto* face = new Quillet(&surface);
-    face->Move(0, 0, 555, 555);
-    face->bordertop(Top);
-    face->borderbottom(Bottom);
+    auto* pot = new Pot(&surface);
     surface.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&surface));
 
-    QTest::mousePress(face, Qt::LeftButton);
-    EXPECT_EQ(rendered(*face).pixelColor(face->width() / 2, 0), Bottom);
-    face->enabled(false);
-    face->enabled(true);
-    EXPECT_EQ(rendered(*face).pixelColor(face->width() / 2, 0), Top);
-    QTest::mouseRelease(face, Qt::LeftButton);
+    QTest::mousePress(pot, Qt::LeftButton);
+    EXPECT_EQ(rendered(*pot).pixelColor(pot->width() / 2, 0), BottomEdge);
+    pot->enabled(false);
+    pot->enabled(true);
+    EXPECT_EQ(rendered(*pot).pixelColor(pot->width() / 2, 0), TopEdge);
+    QTest::mouseRelease(pot, Qt::LeftButton);
 }
 
-TEST(QuilletFace, CaptionShowsAtOnceAndEmptyShowsNone)
+TEST(QuilletFace, CaptionShowsAtOnceTagLeavesTheFaceAloneAndPicturesAreShared)
 {
-    Pot pot;
-    const QImage bare = rendered(pot.face);
-    pot.face.forecolor(Qt::black);
-    pot.face.caption("7");
-    const QImage numbered = rendered(pot.face);
-    pot.face.caption("");
-    const QImage blanked = rendered(pot.face);
+    Pot pot, bank;
+    bank.picture(framedInClear(32, 2));
+    pot.picture(bank.picture());
+    EXPECT_EQ(pot.picture().cacheKey(), bank.picture().cacheKey());
 
-    EXPECT_EQ(pot.face.caption(), "");
+    const QImage bare = rendered(pot);
+    pot.forecolor(Qt::black);
+    pot.caption("7");
+    const QImage numbered = rendered(pot);
+    pot.Tag("12");
+    EXPECT_EQ(rendered(pot), numbered);
+    EXPECT_EQ(pot.Tag(), "12");
+    pot.caption("");
+
     EXPECT_NE(numbered, bare);
-    EXPECT_EQ(blanked, bare);
-    int dark = 0;
-    for (int x = 0; x < numbered.width(); ++x)
-        dark += numbered.pixelColor(x, numbered.height() / 2).value() < 128;
-    EXPECT_GT(dark, 0);
+    EXPECT_EQ(rendered(pot), bare);
 }
 
-TEST(QuilletFace, TagIsKeptAndLeavesTheFaceAlone)
+TEST(QuilletFace, PictureSitsCentredWithoutSmoothingAtRatioTwo)
 {
+    // One device pixel in each colour by turns: any smoothing would mix them.
+    QImage checks(64, 64, QImage::Format_ARGB32);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x)
+            checks.setPixelColor(x, y, (x + y) % 2 ? Qt::black : Qt::yellow);
+    QPixmap picture = QPixmap::fromImage(checks);
+    picture.setDevicePixelRatio(2.0);
     Pot pot;
-    pot.face.caption("3");
-    const QImage before = rendered(pot.face);
-    pot.face.Tag("12");
+    pot.picture(picture);
+    const QImage image = rendered(pot, 2.0);
 
-    EXPECT_EQ(pot.face.Tag(), "12");
-    EXPECT_EQ(pot.face.caption(), "3");
-    EXPECT_EQ(rendered(pot.face), before);
-}
-
-TEST(QuilletFace, PictureReadFromOneFaceIsSharedByAnother)
-{
-    Pot bank, pot;
-    bank.face.picture(framedInClear(32, 2, Qt::green));
-    pot.face.picture(bank.face.picture());
-
-    EXPECT_EQ(pot.face.picture().cacheKey(), bank.face.picture().cacheKey());
-    EXPECT_EQ(rendered(pot.face), rendered(bank.face));
-}
-
-TEST(QuilletFace, PictureSitsCentredAndUnsmoothedAtRatioTwo)
-{
-    Pot pot;
-    const QPixmap picture = checkered(64, 2.0);
-    pot.face.picture(picture);
-    const QImage image = rendered(pot.face, 2.0);
-    const QImage source = picture.toImage();
-
-    const int offset = 2 * ((pot.face.width() - 32) / 2);
+    const int offset = 2 * ((pot.width() - 32) / 2);
     int mismatches = 0;
     for (int y = 0; y < 64; ++y)
         for (int x = 0; x < 64; ++x)
-            mismatches += image.pixelColor(offset + x, offset + y) != source.pixelColor(x, y);
+            mismatches += image.pixelColor(offset + x, offset + y) != checks.pixelColor(x, y);
     EXPECT_EQ(mismatches, 0);
 }
 
-TEST(QuilletFace, PictureThatFitsIsDrawnAtItsOwnSize)
+TEST(QuilletFace, OnlyAPictureWhoseVisiblePartIsTooLargeShrinks)
 {
     Pot pot;
-    pot.face.picture(framedInClear(32, 6, Qt::blue));
-    const QImage image = rendered(pot.face);
+    pot.picture(framedInClear(32, 6));
+    EXPECT_EQ(blueAcrossTheMiddle(rendered(pot)), 20);
 
-    EXPECT_EQ(widthOfColour(image, image.height() / 2, Qt::blue), 20);
-}
-
-TEST(QuilletFace, ClearMarginMayHangOverANarrowFace)
-{
-    // The hand: a 32 pixel picture on a face 25 pixels wide.
+    // The hand: 32 pixels on a face 25 wide, its clear margin hanging over the edges.
     Quillet hand;
     hand.resize(25, 37);
-    hand.picture(framedInClear(32, 6, Qt::blue));
-    const QImage image = rendered(hand);
+    hand.picture(framedInClear(32, 6));
+    EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
 
-    EXPECT_EQ(widthOfColour(image, image.height() / 2, Qt::blue), 20);
+    pot.picture(framedInClear(64, 0));
+    const int across = blueAcrossTheMiddle(rendered(pot));
+    EXPECT_GE(across, pot.width() - 2);
+    EXPECT_LE(across, pot.width());
 }
 
-TEST(QuilletFace, PictureTooLargeForTheFaceShrinksToFit)
-{
-    Pot pot;
-    pot.face.picture(framedInClear(64, 0, Qt::blue));
-    const QImage image = rendered(pot.face);
-
-    const int across = widthOfColour(image, image.height() / 2, Qt::blue);
-    EXPECT_GE(across, pot.face.width() - 2);
-    EXPECT_LE(across, pot.face.width());
-}
-
-TEST(QuilletFace, PlainButtonGreysItsCaptionWhileOffButAPotKeepsItsCount)
+TEST(QuilletFace, PlainButtonGreysItsCaptionWhileOffButABankKeepsItsCount)
 {
     Quillet button;
     button.resize(120, 23);
-    button.backcolor(Face);
-    button.forecolor(Qt::black);
     button.caption("Undo last move");
     const QImage on = rendered(button);
     button.enabled(false);
     EXPECT_NE(rendered(button), on);
 
     Pot bank;
-    bank.face.picture(framedInClear(32, 2, Qt::green));
-    bank.face.forecolor(Qt::white);
-    bank.face.caption("48");
-    const QImage enabledBank = rendered(bank.face);
-    bank.face.enabled(false);
-    EXPECT_EQ(rendered(bank.face), enabledBank);
+    bank.picture(framedInClear(32, 2));
+    bank.forecolor(Qt::white);
+    bank.caption("48");
+    const QImage enabledBank = rendered(bank);
+    bank.enabled(false);
+    EXPECT_EQ(rendered(bank), enabledBank);
 }
 
-TEST(QuilletPlace, MoveTakesTwipsAndLeftTopGiveThemBack)
+TEST(QuilletPlace, TwipsInAndTheSameTwipsOut)
 {
     QWidget surface;
-    Quillet pot(&surface);
+    Pot pot(&surface);
     pot.Move(1530, 1785, 555, 555);
-
     EXPECT_EQ(pot.geometry(), Twips::toPixels(1530, 1785, 555, 555));
-    EXPECT_FLOAT_EQ(pot.Left(), 1530);
-    EXPECT_FLOAT_EQ(pot.Top(), 1785);
 
     // The hand goes where a letter stands, in twips that need not fall on a pixel.
     pot.Left(1642);
@@ -240,30 +172,9 @@ TEST(QuilletPlace, MoveTakesTwipsAndLeftTopGiveThemBack)
     EXPECT_FLOAT_EQ(pot.Left(), 1642);
     EXPECT_FLOAT_EQ(pot.Top(), 1075);
     EXPECT_EQ(pot.pos(), QPoint(Twips::toPixels(1642), Twips::toPixels(1075)));
-    EXPECT_EQ(pot.size(), QSize(Twips::toPixels(555), Twips::toPixels(555)));
-}
 
-TEST(QuilletPlace, PlacedByPixelsItTellsTheTwipsOfThePixels)
-{
-    QWidget surface;
-    Quillet pot(&surface);
-    pot.Move(1530, 1785, 555, 555);
+    // Moved by pixels behind its back, it tells the twips of those pixels.
     pot.move(10, 20);
-
     EXPECT_FLOAT_EQ(pot.Left(), Twips::fromPixels(10));
     EXPECT_FLOAT_EQ(pot.Top(), Twips::fromPixels(20));
-}
-
-TEST(QuilletPlace, VisibleIsTheFacesOwnSettingEvenOnAHiddenWindow)
-{
-    QWidget surface;
-    Quillet hand(&surface);
-
-    EXPECT_TRUE(hand.Visible());
-    hand.Visible(false);
-    EXPECT_FALSE(hand.Visible());
-    surface.show();
-    EXPECT_FALSE(hand.isVisible());
-    hand.Visible(true);
-    EXPECT_TRUE(hand.isVisible());
 }

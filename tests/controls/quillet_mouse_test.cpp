@@ -1,110 +1,131 @@
-#include "face_fixture.h"
+#include "controls/quillet.h"
+#include "controls/twips.h"
 
+#include <QMouseEvent>
 #include <QTest>
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
-std::vector<QString> eventsOf(const std::vector<Raised>& raised)
-{
-    std::vector<QString> events;
-    for (const Raised& one : raised)
-        events.push_back(one.event);
-    return events;
-}
+// One event a face raised, as its handler was given it.
+struct Raised {
+    QString event;
+    int16_t Button = 0, Shift = 0;
+    float X = 0, Y = 0;
+};
 
-std::vector<QString> without(const std::vector<QString>& events, const QString& left_out)
-{
-    std::vector<QString> kept;
-    for (const QString& event : events)
-        if (event != left_out)
-            kept.push_back(event);
-    return kept;
-}
+// The window's surface under the pots: it keeps the moves that reach it.
+struct Surface : QWidget {
+    std::vector<QPoint> moves;
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        moves.push_back(event->position().toPoint());
+    }
+};
 
-const std::vector<QString> PressReleaseClick{"MouseDown", "MouseUp", "Click"};
+const std::vector<QString> DownUpClick{"MouseDown", "MouseUp", "Click"};
+const std::vector<QString> DownUp{"MouseDown", "MouseUp"};
 
-// The last event of a kind; moves come with the mouse on its way to a press.
-const Raised& last(const std::vector<Raised>& raised, const QString& event)
-{
-    static const Raised none{"none"};
-    for (auto one = raised.rbegin(); one != raised.rend(); ++one)
-        if (one->event == event)
-            return *one;
-    return none;
-}
+// Two pots side by side on a shown surface, each event they raise recorded in order.
+class QuilletMouse : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        surface.setMouseTracking(true);
+        surface.resize(200, 100);
+        left->Move(300, 300, 555, 555);
+        right->Move(1200, 300, 555, 555);
+        record(left, leftRaised);
+        record(right, rightRaised);
+        surface.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&surface));
+    }
+
+    static void record(Quillet* face, std::vector<Raised>& into)
+    {
+        const auto keep = [&into](const char* event) {
+            return [&into, event](int16_t Button, int16_t Shift, float X, float Y) {
+                into.push_back({event, Button, Shift, X, Y});
+            };
+        };
+        QObject::connect(face, &Quillet::MouseDown, face, keep("MouseDown"));
+        QObject::connect(face, &Quillet::MouseUp, face, keep("MouseUp"));
+        QObject::connect(face, &Quillet::MouseMove, face, keep("MouseMove"));
+        QObject::connect(face, &Quillet::Click, face, [&into] { into.push_back({"Click"}); });
+    }
+
+    // All but the moves, which come with the mouse on its way to a press.
+    static std::vector<QString> pressesOf(const std::vector<Raised>& raised)
+    {
+        std::vector<QString> events;
+        for (const Raised& one : raised)
+            if (one.event != "MouseMove")
+                events.push_back(one.event);
+        return events;
+    }
+
+    static Raised last(const std::vector<Raised>& raised, const QString& event)
+    {
+        for (auto one = raised.rbegin(); one != raised.rend(); ++one)
+            if (one->event == event)
+                return *one;
+        return {"none"};
+    }
+
+    static float twips(int pixels) { return static_cast<float>(pixels) * Twips::perPixel(); }
+
+    Surface surface;
+    Quillet* left = new Quillet(&surface);
+    Quillet* right = new Quillet(&surface);
+    std::vector<Raised> leftRaised, rightRaised;
+};
 
 } // namespace
 
-using QuilletMouse = FaceFixture;
-
-TEST_F(QuilletMouse, LeftPressAndReleaseGiveDownUpThenClick)
+TEST_F(QuilletMouse, LeftPressAndReleaseGiveDownUpThenClickInTwips)
 {
-    QTest::mousePress(left, Qt::LeftButton, {}, QPoint(10, 5));
-    QTest::mouseRelease(left, Qt::LeftButton, {}, QPoint(12, 7));
+    QTest::mousePress(left, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(10, 5));
+    QTest::mouseRelease(left, Qt::LeftButton, Qt::AltModifier, QPoint(12, 7));
 
-    ASSERT_EQ(without(eventsOf(leftRaised), "MouseMove"), PressReleaseClick);
-    const Raised& down = last(leftRaised, "MouseDown");
+    ASSERT_EQ(pressesOf(leftRaised), DownUpClick);
+    const Raised down = last(leftRaised, "MouseDown");
     EXPECT_EQ(down.Button, 1);
-    EXPECT_EQ(down.Shift, 0);
+    EXPECT_EQ(down.Shift, 3);
     EXPECT_FLOAT_EQ(down.X, twips(10));
     EXPECT_FLOAT_EQ(down.Y, twips(5));
-    const Raised& up = last(leftRaised, "MouseUp");
+    const Raised up = last(leftRaised, "MouseUp");
     EXPECT_EQ(up.Button, 1);
+    EXPECT_EQ(up.Shift, 4);
     EXPECT_FLOAT_EQ(up.X, twips(12));
-    EXPECT_FLOAT_EQ(up.Y, twips(7));
     EXPECT_TRUE(rightRaised.empty());
 }
 
 TEST_F(QuilletMouse, RightAndMiddleButtonsHaveTheirNumbersAndNoClick)
 {
-    QTest::mousePress(left, Qt::RightButton);
-    QTest::mouseRelease(left, Qt::RightButton);
-    QTest::mousePress(left, Qt::MiddleButton);
-    QTest::mouseRelease(left, Qt::MiddleButton);
-
-    const std::vector<QString> expected{"MouseDown", "MouseUp", "MouseDown", "MouseUp"};
-    const std::vector<QString> events = without(eventsOf(leftRaised), "MouseMove");
-    ASSERT_EQ(events, expected);
-    std::vector<int16_t> buttons;
-    for (const Raised& one : leftRaised)
-        if (one.event != "MouseMove")
-            buttons.push_back(one.Button);
-    EXPECT_EQ(buttons, (std::vector<int16_t>{2, 2, 4, 4}));
+    QTest::mouseClick(left, Qt::RightButton);
+    EXPECT_EQ(last(leftRaised, "MouseDown").Button, 2);
+    EXPECT_EQ(last(leftRaised, "MouseUp").Button, 2);
+    QTest::mouseClick(left, Qt::MiddleButton);
+    EXPECT_EQ(last(leftRaised, "MouseUp").Button, 4);
+    EXPECT_EQ(pressesOf(leftRaised).size(), 4u);
 }
 
-TEST_F(QuilletMouse, ShiftCtrlAndAltAddUpInShift)
-{
-    QTest::mousePress(left, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
-    QTest::mouseRelease(left, Qt::LeftButton, Qt::AltModifier);
-
-    ASSERT_EQ(without(eventsOf(leftRaised), "MouseMove"), PressReleaseClick);
-    EXPECT_EQ(last(leftRaised, "MouseDown").Shift, 3);
-    EXPECT_EQ(last(leftRaised, "MouseUp").Shift, 4);
-}
-
-TEST_F(QuilletMouse, MoveWithoutAButtonIsReportedInTwips)
+TEST_F(QuilletMouse, MovesTellTheButtonsHeld)
 {
     QTest::mouseMove(left, QPoint(20, 11));
+    EXPECT_EQ(leftRaised.back().event, "MouseMove");
+    EXPECT_EQ(leftRaised.back().Button, 0);
+    EXPECT_FLOAT_EQ(leftRaised.back().X, twips(20));
+    EXPECT_FLOAT_EQ(leftRaised.back().Y, twips(11));
 
-    ASSERT_FALSE(leftRaised.empty());
-    const Raised& move = leftRaised.back();
-    EXPECT_EQ(move.event, "MouseMove");
-    EXPECT_EQ(move.Button, 0);
-    EXPECT_FLOAT_EQ(move.X, twips(20));
-    EXPECT_FLOAT_EQ(move.Y, twips(11));
-}
-
-TEST_F(QuilletMouse, MoveWithTheLeftButtonHeldCarriesButtonOne)
-{
     QTest::mousePress(left, Qt::LeftButton, {}, QPoint(5, 5));
     QTest::mouseMove(left, QPoint(6, 9));
-
-    const Raised& move = leftRaised.back();
-    EXPECT_EQ(move.event, "MouseMove");
-    EXPECT_EQ(move.Button, 1);
-    EXPECT_FLOAT_EQ(move.Y, twips(9));
+    EXPECT_EQ(leftRaised.back().event, "MouseMove");
+    EXPECT_EQ(leftRaised.back().Button, 1);
     QTest::mouseRelease(left, Qt::LeftButton, {}, QPoint(6, 9));
 }
 
@@ -115,49 +136,39 @@ TEST_F(QuilletMouse, ReleaseGoesToTheFaceThatTookThePress)
     QTest::mouseRelease(right, Qt::LeftButton, {}, QPoint(5, 5));
 
     EXPECT_TRUE(rightRaised.empty());
-    const std::vector<QString> expected{"MouseDown", "MouseUp"};
-    ASSERT_EQ(without(eventsOf(leftRaised), "MouseMove"), expected);
-    // Told where the mouse is from the face that took the press: far to its right.
-    const float offset = twips(right->x() - left->x() + 5);
-    EXPECT_FLOAT_EQ(last(leftRaised, "MouseUp").X, offset);
-}
+    // Released off the face: no click, and told from where the face stands.
+    ASSERT_EQ(pressesOf(leftRaised), DownUp);
+    EXPECT_FLOAT_EQ(last(leftRaised, "MouseUp").X, twips(right->x() - left->x() + 5));
 
-TEST_F(QuilletMouse, PressLeftOnTheFaceThenBackBeforeReleaseStillClicks)
-{
     QTest::mousePress(left, Qt::LeftButton, {}, QPoint(5, 5));
     QTest::mouseMove(right, QPoint(5, 5));
     QTest::mouseMove(left, QPoint(8, 8));
     QTest::mouseRelease(left, Qt::LeftButton, {}, QPoint(8, 8));
-
-    EXPECT_EQ(without(eventsOf(leftRaised), "MouseMove"), PressReleaseClick);
-    EXPECT_TRUE(rightRaised.empty());
+    EXPECT_EQ(last(leftRaised, "Click").event, "Click");
 }
 
-TEST_F(QuilletMouse, ReleaseWithoutItsPressOnTheFaceIsNoClick)
-{
-    QTest::mousePress(surface, Qt::LeftButton, {}, QPoint(1, 1));
-    QTest::mouseMove(left, QPoint(5, 5));
-    QTest::mouseRelease(left, Qt::LeftButton, {}, QPoint(5, 5));
-
-    EXPECT_EQ(without(eventsOf(leftRaised), "MouseMove"), std::vector<QString>{});
-}
-
-TEST_F(QuilletMouse, DisabledFaceRaisesNothing)
+TEST_F(QuilletMouse, DisabledFaceRaisesNothingAndItsMovesReachTheSurface)
 {
     left->enabled(false);
-    QTest::mouseMove(left, QPoint(4, 4));
-    QTest::mousePress(left, Qt::LeftButton);
-    QTest::mouseRelease(left, Qt::LeftButton);
-    QTest::mousePress(left, Qt::RightButton);
-    QTest::mouseRelease(left, Qt::RightButton);
+    surface.moves.clear();
+    QTest::mouseMove(left, QPoint(7, 9));
+    QTest::mouseClick(left, Qt::LeftButton);
+    QTest::mouseClick(left, Qt::RightButton);
 
     EXPECT_TRUE(leftRaised.empty());
-    EXPECT_FALSE(left->enabled());
+    ASSERT_FALSE(surface.moves.empty());
+    EXPECT_EQ(surface.moves.front(), left->pos() + QPoint(7, 9));
+
+    left->enabled(true);
+    surface.moves.clear();
+    QTest::mouseMove(left, QPoint(8, 9));
+    EXPECT_TRUE(surface.moves.empty());
+    EXPECT_FALSE(leftRaised.empty());
 }
 
 TEST_F(QuilletMouse, FaceInADisabledFrameRaisesNothingYetKeepsItsOwnSetting)
 {
-    auto* frame = new QWidget(surface);
+    auto* frame = new QWidget(&surface);
     frame->setGeometry(0, 60, 100, 40);
     auto* inner = new Quillet(frame);
     inner->Move(150, 150, 555, 300);
@@ -166,55 +177,25 @@ TEST_F(QuilletMouse, FaceInADisabledFrameRaisesNothingYetKeepsItsOwnSetting)
     frame->show();
     frame->setEnabled(false);
 
-    QTest::mousePress(inner, Qt::LeftButton);
-    QTest::mouseRelease(inner, Qt::LeftButton);
-
+    QTest::mouseClick(inner, Qt::LeftButton);
     EXPECT_TRUE(innerRaised.empty());
     EXPECT_TRUE(inner->enabled());
+
     frame->setEnabled(true);
-    QTest::mousePress(inner, Qt::LeftButton);
-    QTest::mouseRelease(inner, Qt::LeftButton);
-    EXPECT_EQ(without(eventsOf(innerRaised), "MouseMove"), PressReleaseClick);
+    QTest::mouseClick(inner, Qt::LeftButton);
+    EXPECT_EQ(pressesOf(innerRaised), DownUpClick);
 }
 
-TEST_F(QuilletMouse, MovesOverADisabledFaceReachTheSurfaceBelow)
-{
-    left->enabled(false);
-    surface->moves.clear();
-    QTest::mouseMove(left, QPoint(7, 9));
-
-    ASSERT_FALSE(surface->moves.empty());
-    EXPECT_EQ(surface->moves.back(), left->pos() + QPoint(7, 9));
-}
-
-TEST_F(QuilletMouse, MovesOverAnEnabledFaceStayWithTheFace)
-{
-    QTest::mouseMove(surface, QPoint(1, 1));
-    surface->moves.clear();
-    QTest::mouseMove(left, QPoint(7, 9));
-
-    EXPECT_TRUE(surface->moves.empty());
-    EXPECT_FALSE(leftRaised.empty());
-}
-
-TEST_F(QuilletMouse, NoClickOnceTheReleaseHandlerTurnedTheFaceOff)
-{
-    QObject::connect(left, &Quillet::MouseUp, left, [this] { left->enabled(false); });
-    QTest::mousePress(left, Qt::LeftButton);
-    QTest::mouseRelease(left, Qt::LeftButton);
-
-    const std::vector<QString> expected{"MouseDown", "MouseUp"};
-    EXPECT_EQ(without(eventsOf(leftRaised), "MouseMove"), expected);
-}
-
-TEST_F(QuilletMouse, AFailingHandlerDoesNotEscapeTheEvent)
+TEST_F(QuilletMouse, AHandlerThatFailsOrTurnsTheFaceOffDoesNotBreakTheEvent)
 {
     QObject::connect(left, &Quillet::MouseDown, left,
                      [] { throw std::runtime_error("no such pot"); });
     QObject::connect(left, &Quillet::MouseUp, left, [] { throw 42; });
-    QTest::mousePress(left, Qt::LeftButton);
-    QTest::mouseRelease(left, Qt::LeftButton);
+    QTest::mouseClick(left, Qt::LeftButton);
+    // The recorder, connected first, saw each event before the failures.
+    EXPECT_EQ(pressesOf(leftRaised), DownUpClick);
 
-    // The recorder was connected first, so it saw every event before the failures.
-    EXPECT_EQ(without(eventsOf(leftRaised), "MouseMove"), PressReleaseClick);
+    QObject::connect(right, &Quillet::MouseUp, right, [this] { right->enabled(false); });
+    QTest::mouseClick(right, Qt::LeftButton);
+    EXPECT_EQ(pressesOf(rightRaised), DownUp);
 }

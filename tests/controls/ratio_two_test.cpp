@@ -18,13 +18,6 @@ protected:
     }
 };
 
-TEST_F(AtRatioTwo, PicturesLoadTheirLargeDrawing)
-{
-    const QPixmap disc = Pictures::load(Pictures::DiscRedRaised);
-    EXPECT_EQ(disc.size(), QSize(64, 64));
-    EXPECT_EQ(disc.deviceIndependentSize(), QSizeF(32, 32));
-}
-
 TEST_F(AtRatioTwo, TheWindowIconFindsItsLargeDrawing)
 {
     const QIcon icon(Pictures::Board);
