@@ -215,16 +215,18 @@ QRect Quillet::pictureRect() const
     const QSize size = m_picture.deviceIndependentSize().toSize();
     // Whole pixels from the face's corner keep a picture of the screen's own ratio crisp.
     const QRect centred(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
-    const QRect content = m_pictureContent.translated(centred.topLeft());
-    if (rect().contains(content) || m_pictureContent.isEmpty())
+    if (m_pictureContent.isEmpty())
         return centred;
-    // Shrink about the picture's centre until what can be seen of it fits the face.
+    // Shrink about the picture's centre, only as far as its visible part needs to fit:
+    // a clear margin may hang over the edges.
     const QPointF middle = QRectF(QPointF(0, 0), QSizeF(size)).center();
     const qreal reachX =
         std::max(middle.x() - m_pictureContent.left(), m_pictureContent.right() + 1 - middle.x());
     const qreal reachY =
         std::max(middle.y() - m_pictureContent.top(), m_pictureContent.bottom() + 1 - middle.y());
     const qreal scale = std::min({1.0, width() / (2.0 * reachX), height() / (2.0 * reachY)});
+    if (scale == 1.0)
+        return centred;
     const QSize shrunk = (QSizeF(size) * scale).toSize();
     return QRect(QPoint((width() - shrunk.width()) / 2, (height() - shrunk.height()) / 2), shrunk);
 }
