@@ -1,5 +1,6 @@
+#include "window/form1.h"
+
 #include <QApplication>
-#include <QLabel>
 
 #include <cstdio>
 #include <cstdlib>
@@ -9,12 +10,12 @@ namespace {
 // Without a display Qt would abort with a long message; one clear line is kinder.
 bool HasDisplay()
 {
-    const char* platform = std::getenv("QT_QPA_PLATFORM");
-    if (platform && *platform)
-        return true;
-    const char* x11 = std::getenv("DISPLAY");
-    const char* wayland = std::getenv("WAYLAND_DISPLAY");
-    return (x11 && *x11) || (wayland && *wayland);
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        const char* value = std::getenv(name);
+        if (value && *value)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -23,14 +24,11 @@ int main(int argc, char* argv[])
 {
     if (!HasDisplay()) {
         std::fprintf(stderr, "tavok: no display found (DISPLAY is not set); "
-                             "run it in a desktop session, or under xvfb-run\n");
+                             "start it from a desktop session, or under xvfb-run\n");
         return 1;
     }
     QApplication app(argc, argv);
-    QLabel board(QStringLiteral("TAVOK"));
-    board.setWindowTitle(QStringLiteral("TAVOK"));
-    board.setAlignment(Qt::AlignCenter);
-    board.resize(530, 464);
-    board.show();
+    Form1 form;
+    form.show();
     return app.exec();
 }

@@ -1,0 +1,519 @@
+#include "window/form1.h"
+
+#include "controls/marlet.h"
+#include "controls/quillet.h"
+#include "controls/twips.h"
+#include "moveslist/listerror.h"
+#include "moveslist/moveslistblock.h"
+#include "moveslist/usercontrol1.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScreen>
+#include <QSlider>
+#include <QStyle>
+
+namespace {
+
+QString FromStd(const std::string& s)
+{
+    return QString::fromStdString(s);
+}
+
+QFont ArialFont(double points, bool bold)
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(points);
+    font.setBold(bold);
+    return font;
+}
+
+QFont SansSerifFont(bool bold)
+{
+    QFont font(QStringLiteral("MS Sans Serif"));
+    font.setPointSizeF(8.25);
+    font.setBold(bold);
+    return font;
+}
+
+QColor Colour(int r, int g, int b)
+{
+    return QColor(r, g, b);
+}
+
+int Px(int twips)
+{
+    return Twips::toPixels(static_cast<float>(twips));
+}
+
+QRect PxRect(const Layout::Rect& r)
+{
+    return Twips::toPixels(static_cast<float>(r.left), static_cast<float>(r.top),
+                           static_cast<float>(r.width), static_cast<float>(r.height));
+}
+
+} // namespace
+
+// The game's fonts come from another desktop; these look alike and ship with Debian.
+static void InstallFontSubstitutes()
+{
+    const QStringList sans{QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
+                           QStringLiteral("DejaVu Sans")};
+    QFont::insertSubstitutions(QStringLiteral("MS Sans Serif"), sans);
+    QFont::insertSubstitutions(QStringLiteral("Arial"), sans);
+}
+
+Form1::Form1(QWidget* parent) : QWidget(parent)
+{
+    InstallFontSubstitutes();
+    setWindowTitle(QStringLiteral("TAVOK"));
+    setWindowIcon(QIcon(QStringLiteral(":/assets/board.png")));
+    setFont(SansSerifFont(true));
+    setFixedSize(Px(Layout::ClientWidth), Px(Layout::ClientHeight));
+    // Mouse moves over the bare surface end a hover look.
+    setMouseTracking(true);
+
+    CreateControls();
+    ConnectHandlers();
+    SetTabOrder();
+    qApp->installEventFilter(this);
+    Form_Load();
+
+    if (QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
+}
+
+Form1::~Form1()
+{
+    qApp->removeEventFilter(this);
+}
+
+// A plain button: Arial 8.25, window text on button face, raised edges.
+static void MakePlainButton(Quillet* button, const QString& caption)
+{
+    const QPalette palette = button->palette();
+    button->setFont(ArialFont(8.25, false));
+    button->forecolor(palette.color(QPalette::WindowText));
+    button->backcolor(palette.color(QPalette::Button));
+    button->bordertop(palette.color(QPalette::Light));
+    button->borderleft(palette.color(QPalette::Light));
+    button->borderright(palette.color(QPalette::Dark));
+    button->borderbottom(palette.color(QPalette::Dark));
+    button->caption(caption);
+}
+
+// Edges in the face colour: the control shows only its picture and caption.
+static void MakeFlat(Quillet* q)
+{
+    const QColor face = q->palette().color(QPalette::Button);
+    q->backcolor(face);
+    q->bordertop(face);
+    q->borderleft(face);
+    q->borderright(face);
+    q->borderbottom(face);
+}
+
+static QLabel* MakeLabel(QWidget* parent, const char* name, const QString& text)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setAlignment(Qt::AlignCenter);
+    // A label has mouse events of its own: a move over it is no move over the window.
+    label->setAttribute(Qt::WA_NoMousePropagation);
+    return label;
+}
+
+static void SetTextColors(QLabel* label, const QColor& text, const QColor& back)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, text);
+    if (back.isValid()) {
+        palette.setColor(QPalette::Window, back);
+        label->setAutoFillBackground(true);
+    }
+    label->setPalette(palette);
+}
+
+void Form1::CreateControls()
+{
+    CreateCommandPanel();
+
+    Score1 = new Marlets::Marlet(this);
+    Score1->setObjectName(QStringLiteral("Score1"));
+    Score1->setGeometry(PxRect(Layout::Score1));
+    Score1->Visible(false);
+
+    MovesList = UserControl1::FromBlock(MovesListBlock(), this);
+    MovesList->setObjectName(QStringLiteral("MovesList"));
+    MovesList->setFont(SansSerifFont(false));
+    MovesList->setGeometry(PxRect(Layout::MovesList));
+
+    Hand = new Quillet(this);
+    Hand->setObjectName(QStringLiteral("Hand"));
+    Hand->Move(Layout::Hand.left, Layout::Hand.top, Layout::Hand.width, Layout::Hand.height);
+    MakeFlat(Hand);
+    Hand->picture(QPixmap(QStringLiteral(":/assets/hand.png")));
+    Hand->Visible(false);
+
+    StartBeads = new QSlider(Qt::Horizontal, this);
+    StartBeads->setObjectName(QStringLiteral("StartBeads"));
+    StartBeads->setGeometry(PxRect(Layout::StartBeads));
+    StartBeads->setRange(2, 99);
+    StartBeads->setSingleStep(1);
+    StartBeads->setPageStep(10);
+    StartBeads->setValue(99);
+    StartBeads->setAttribute(Qt::WA_NoMousePropagation);
+
+    Text1 = new QLineEdit(QStringLiteral("Text1"), this);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setGeometry(PxRect(Layout::Text1));
+    Text1->hide();
+
+    Mess = new Quillet(this);
+    Mess->setObjectName(QStringLiteral("Mess"));
+    Mess->Move(Layout::Mess.left, Layout::Mess.top, Layout::Mess.width, Layout::Mess.height);
+    MakePlainButton(Mess, QStringLiteral("Command"));
+    Mess->setFont(SansSerifFont(false));
+    Mess->enabled(false);
+
+    CreateBoard();
+
+    Label2 = MakeLabel(this, "Label2", QStringLiteral("Label2"));
+    Label2->setGeometry(PxRect(Layout::Label2));
+    Label2->setFont(ArialFont(8.25, true));
+    SetTextColors(Label2, Qt::white, Qt::black);
+
+    Image4 = MakeLabel(this, "Image4", {});
+    Image4->setGeometry(PxRect(Layout::Image4));
+    Image4->setPixmap(QPixmap(QStringLiteral(":/assets/disc_green_raised.png")));
+    Image4->hide();
+    Image3 = MakeLabel(this, "Image3", {});
+    Image3->setGeometry(PxRect(Layout::Image3));
+    Image3->setPixmap(QPixmap(QStringLiteral(":/assets/disc_red_raised.png")));
+    Image3->hide();
+
+    // Stacking: the hand over the letters, the score board over the log.
+    Hand->raise();
+    Score1->raise();
+}
+
+void Form1::CreateBoard()
+{
+    const QPixmap greenRaised(QStringLiteral(":/assets/disc_green_raised.png"));
+    const QPixmap greenSunken(QStringLiteral(":/assets/disc_green_sunken.png"));
+    const QPixmap redRaised(QStringLiteral(":/assets/disc_red_raised.png"));
+    const QPixmap redSunken(QStringLiteral(":/assets/disc_red_sunken.png"));
+    for (int s = 0; s < SlotCount; ++s) {
+        auto* pot = new Quillet(this);
+        pot->setObjectName(QStringLiteral("Pots%1").arg(s));
+        pot->Move(Layout::PotLeft[s], Layout::PotTop[s], Layout::PotSize, Layout::PotSize);
+        MakeFlat(pot);
+        pot->forecolor(Qt::white);
+        pot->setFont(ArialFont(10.5, true));
+        pot->caption(QStringLiteral("999"));
+        if (s == HumanBank)
+            pot->picture(greenSunken);
+        else if (s == ComputerBank)
+            pot->picture(redSunken);
+        else
+            pot->picture(s < 6 ? greenRaised : redRaised);
+        // The computer's pots are stored disabled: they take the mouse only after a restart.
+        pot->enabled(!IsComputerPot(s));
+        Pots[s] = pot;
+    }
+
+    Label3 = MakeLabel(this, "Label3", QStringLiteral("COMPUTER"));
+    Label3->setGeometry(PxRect(Layout::Label3));
+    Label3->setFont(ArialFont(8.25, true));
+    SetTextColors(Label3, Colour(192, 0, 0), {});
+    Label3->setToolTip(QStringLiteral("Computer moves beades from RED pots, right to left"));
+
+    Label1 = MakeLabel(this, "Label1", QStringLiteral("HUMAN"));
+    Label1->setGeometry(PxRect(Layout::Label1));
+    Label1->setFont(ArialFont(8.25, true));
+    SetTextColors(Label1, Colour(0, 192, 0), {});
+    Label1->setToolTip(QStringLiteral("Human moves beades from GREEN pots, left to right"));
+
+    const QColor totalBack[3] = {{}, Colour(255, 0, 0), Colour(0, 192, 0)};
+    const QString totalTip[3] = {{},
+                                 QStringLiteral("Total Beads accumulated by the Computer"),
+                                 QStringLiteral("Total Beads accumulated by the Human player")};
+    for (int i = 1; i <= 2; ++i) {
+        QLabel* total = MakeLabel(this, i == 1 ? "TotalB1" : "TotalB2", QStringLiteral("TOTAL"));
+        total->setGeometry(PxRect(Layout::TotalB[i]));
+        total->setFont(ArialFont(14.25, true));
+        total->setFrameShape(QFrame::Box);
+        total->setLineWidth(1);
+        SetTextColors(total, Qt::black, totalBack[i]);
+        total->setToolTip(totalTip[i]);
+        TotalB[i] = total;
+    }
+
+    for (int i = 0; i < 6; ++i) {
+        const char* names[] = {"PotName0", "PotName1", "PotName2",
+                               "PotName3", "PotName4", "PotName5"};
+        QLabel* letter = MakeLabel(this, names[i], QString(QChar('A' + i)));
+        letter->setGeometry(Px(Layout::PotNameLeft[i]), Px(Layout::PotNameTop),
+                            Px(Layout::PotNameWidth), Px(Layout::PotNameHeight));
+        letter->setFont(ArialFont(14.25, true));
+        SetTextColors(letter, Qt::black, {});
+        PotName[i] = letter;
+    }
+
+    Image1 = MakeLabel(this, "Image1", {});
+    Image1->setGeometry(PxRect(Layout::Image1));
+    Image1->setScaledContents(true);
+    Image1->setPixmap(QPixmap(QStringLiteral(":/assets/arrow_red.png")));
+    Image2 = MakeLabel(this, "Image2", {});
+    Image2->setGeometry(PxRect(Layout::Image2));
+    Image2->setScaledContents(true);
+    Image2->setPixmap(QPixmap(QStringLiteral(":/assets/arrow_green.png")));
+}
+
+static QGroupBox* MakeFrame(QWidget* parent, const char* name)
+{
+    auto* frame = new QGroupBox(parent);
+    frame->setObjectName(QString::fromLatin1(name));
+    frame->setAttribute(Qt::WA_NoMousePropagation);
+    return frame;
+}
+
+void Form1::CreateCommandPanel()
+{
+    Frame2 = MakeFrame(this, "Frame2");
+    Frame2->setGeometry(PxRect(Layout::Frame2));
+    CommandFrame = MakeFrame(this, "CommandFrame");
+    CommandFrame->setGeometry(PxRect(Layout::CommandFrame));
+
+    auto button = [this](QWidget* frame, const char* name, const Layout::Rect& r,
+                         const QString& caption, const QString& tip) {
+        auto* q = new Quillet(frame);
+        q->setObjectName(QString::fromLatin1(name));
+        q->Move(r.left, r.top, r.width, r.height);
+        MakePlainButton(q, caption);
+        if (!tip.isEmpty())
+            q->setToolTip(tip);
+        return q;
+    };
+    Quitx = button(Frame2, "Quitx", Layout::Quitx, QStringLiteral("Exit"), {});
+    Helpx = button(Frame2, "Helpx", Layout::Helpx, QStringLiteral("Help"), {});
+    Aboutx = button(Frame2, "Aboutx", Layout::Aboutx, QStringLiteral("About"), {});
+    Scorex = button(Frame2, "Scorex", Layout::Scorex, QStringLiteral("Show score"), {});
+    Undox = button(CommandFrame, "Undox", Layout::Undox, QStringLiteral("Undo last move"),
+                   QStringLiteral("Undo last move"));
+    Pausex = button(CommandFrame, "Pausex", Layout::Pausex, QStringLiteral("Do not pause"),
+                    QStringLiteral("Pause at Computer move.  Click OK to continue"));
+    TakeComp =
+        button(CommandFrame, "TakeComp", Layout::TakeComp, QStringLiteral("Force Computer turn"),
+               QStringLiteral("Let computer play Human turn"));
+    GiveHint = button(CommandFrame, "GiveHint", Layout::GiveHint, QStringLiteral("Give hint"),
+                      QStringLiteral("Click down to get a hint for the next move"));
+}
+
+void Form1::ConnectHandlers()
+{
+    for (int16_t s = 0; s < SlotCount; ++s) {
+        connect(
+            Pots[s], &Quillet::MouseMove, this,
+            [this, s](int16_t b, int16_t sh, float x, float y) { Pots_MouseMove(s, b, sh, x, y); });
+        connect(
+            Pots[s], &Quillet::MouseDown, this,
+            [this, s](int16_t b, int16_t sh, float x, float y) { Pots_MouseDown(s, b, sh, x, y); });
+        connect(Pots[s], &Quillet::MouseUp, this,
+                [this, s](int16_t b, int16_t sh, float x, float y) {
+                    game_.Pots_MouseUp(s, b, sh, x, y);
+                });
+    }
+    connect(Mess, &Quillet::Click, this, [this] { game_.Mess_Click(); });
+    connect(Undox, &Quillet::Click, this, [this] { game_.Undox_Click(); });
+    connect(Pausex, &Quillet::Click, this, &Form1::Pausex_Click);
+    connect(TakeComp, &Quillet::Click, this, [this] { game_.TakeComp_Click(); });
+    connect(GiveHint, &Quillet::MouseDown, this, [this](int16_t b, int16_t sh, float x, float y) {
+        game_.GiveHint_MouseDown(b, sh, x, y);
+    });
+    connect(GiveHint, &Quillet::MouseUp, this, [this](int16_t b, int16_t sh, float x, float y) {
+        game_.GiveHint_MouseUp(b, sh, x, y);
+    });
+    connect(Scorex, &Quillet::MouseUp, this, &Form1::Scorex_MouseUp);
+    connect(Helpx, &Quillet::Click, this, &Form1::Helpx_Click);
+    connect(Aboutx, &Quillet::Click, this, &Form1::Aboutx_Click);
+    connect(Quitx, &Quillet::Click, this, &Form1::Quitx_Click);
+    connect(StartBeads, &QSlider::valueChanged, this, &Form1::StartBeads_Change);
+}
+
+// Of the controls that can take the focus, the slider comes first, then the log.
+void Form1::SetTabOrder()
+{
+    for (QWidget* w : findChildren<QWidget*>())
+        if (w != StartBeads && w != MovesList && !MovesList->isAncestorOf(w))
+            w->setFocusPolicy(Qt::NoFocus);
+    setTabOrder(StartBeads, MovesList);
+    StartBeads->setFocus();
+}
+
+void Form1::Form_Load()
+{
+    Score1->ScoreTitle(QStringLiteral("Tavok"));
+    Score1->ScoreOptionB(true);
+    Score1->ScoreOptionA(true);
+    game_.StartBeadCount = 3;
+    game_.EntryNumber = 0;
+    // The slider stood at 99, so this lays out the board through StartBeads_Change.
+    StartBeads->setValue(game_.StartBeadCount);
+    Label2->setText(QStringLiteral("Start with %1 beads").arg(game_.StartBeadCount));
+    game_.ResetForLoad();
+    Text1->hide();
+    game_.NewGame();
+    game_.UpdateBoard();
+    MovesList->DropDownHeight(3750);
+    MovesList->Mode(0);
+    MovesList->BorderStyle(0);
+    MovesList->GridLines(true);
+    MovesList->ToolTip(true);
+    game_.LogOpeningLines();
+}
+
+void Form1::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(Qt::black, 3, Qt::SolidLine, Qt::FlatCap));
+    for (int x : Layout::Line5X)
+        painter.drawLine(Px(x), Px(Layout::Line5Top), Px(x), Px(Layout::Line5Bottom));
+
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(Qt::black, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(PxRect(Layout::Shape1Rows)).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawEllipse(QRectF(PxRect(Layout::Shape1Banks)).adjusted(0.5, 0.5, -0.5, -0.5));
+
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    auto stroke = [&](const Layout::Segment& s, const QColor& color) {
+        painter.setPen(QPen(color, 1));
+        painter.drawLine(Px(s.x1), Px(s.y1), Px(s.x2), Px(s.y2));
+    };
+    stroke(Layout::Line4, palette().color(QPalette::Dark));
+    stroke(Layout::Line3, Qt::white);
+}
+
+// GameScreen: what the game needs of the window.
+
+std::string Form1::PotTag(int16_t Index) const
+{
+    if (!IsSlot(Index))
+        return {};
+    return Pots[Index]->Tag().toStdString();
+}
+
+void Form1::SetPotEnabled(int16_t Slot, bool Enabled)
+{
+    if (IsSlot(Slot))
+        Pots[Slot]->enabled(Enabled);
+}
+
+void Form1::SetMessCaption(const std::string& Caption)
+{
+    Mess->caption(FromStd(Caption));
+}
+void Form1::SetMessEnabled(bool Enabled)
+{
+    Mess->enabled(Enabled);
+}
+void Form1::ShowMess()
+{
+    Mess->Visible(true);
+}
+void Form1::SetUndoxEnabled(bool Enabled)
+{
+    Undox->enabled(Enabled);
+}
+void Form1::SetCommandFrameEnabled(bool Enabled)
+{
+    CommandFrame->setEnabled(Enabled);
+}
+void Form1::SetStartBeadsEnabled(bool Enabled)
+{
+    StartBeads->setEnabled(Enabled);
+}
+void Form1::SetHandLeft(float Left)
+{
+    Hand->Left(Left);
+}
+void Form1::SetHandTop(float Top)
+{
+    Hand->Top(Top);
+}
+void Form1::SetHandVisible(bool Visible)
+{
+    Hand->Visible(Visible);
+}
+bool Form1::HandVisible() const
+{
+    return Hand->Visible();
+}
+
+// The letters never move: their places in the table are their places on the screen.
+float Form1::PotNameLeft(int16_t Index) const
+{
+    return Index >= 0 && Index < 6 ? static_cast<float>(Layout::PotNameLeft[Index]) : 0.f;
+}
+
+float Form1::PotNameTop(int16_t) const
+{
+    return static_cast<float>(Layout::PotNameTop);
+}
+
+void Form1::SetTotalBCaption(int16_t Index, const std::string& Caption)
+{
+    if (Index == 1 || Index == 2)
+        TotalB[Index]->setText(FromStd(Caption));
+}
+
+void Form1::MovesList_Additem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
+                              int32_t& ItemColor)
+{
+    QString text = FromStd(s);
+    QString font = FromStd(ItemFont);
+    try {
+        MovesList->Additem(text, itemx, ipic, font, ItemColor);
+    } catch (const ListError&) {
+        // A log too long for the list loses its newest lines, never the game.
+    }
+    s = text.toStdString();
+    ItemFont = font.toStdString();
+}
+
+void Form1::MovesList_Additem(std::string& s, int16_t itemx)
+{
+    QString text = FromStd(s);
+    try {
+        MovesList->Additem(text, itemx);
+    } catch (const ListError&) {
+    }
+    s = text.toStdString();
+}
+
+void Form1::MovesList_Clear()
+{
+    MovesList->Clear();
+}
+void Form1::Score1_ScoreWin(bool Value)
+{
+    Score1->ScoreWin(Value);
+}
+void Form1::Score1_ScoreDraw(bool Value)
+{
+    Score1->ScoreDraw(Value);
+}
+
+// The pause sleeps on the event queue rather than spinning a core.
+void Form1::DoEvents()
+{
+    if (pauseHook_)
+        pauseHook_();
+    else
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
