@@ -7,84 +7,81 @@
 #include <QTextEdit>
 #include <QTimer>
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 namespace {
 
-class AboutWindow : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        about.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&about));
-    }
+QWidget* TextOf(AboutForm& about)
+{
+    return about.findChild<QTextEdit*>()->viewport();
+}
 
-    // A point of the window's own surface, clear of every control.
-    QPoint surface() const
-    {
-        for (int y = about.height() - 1; y >= 0; --y)
-            for (int x = 0; x < about.width(); ++x)
-                if (!about.childAt(x, y))
-                    return {x, y};
-        return {-1, -1};
-    }
+// A point of the window's own surface, clear of every control.
+QPoint Surface(const AboutForm& about)
+{
+    for (int y = about.height() - 1; y >= 0; --y)
+        for (int x = 0; x < about.width(); ++x)
+            if (!about.childAt(x, y))
+                return {x, y};
+    return {-1, -1};
+}
 
+using Gesture = std::function<void(AboutForm&)>;
+
+bool StaysOpenAfter(const Gesture& gesture)
+{
     AboutForm about;
-    QTextEdit* text = about.findChild<QTextEdit*>();
-};
+    about.show();
+    if (!QTest::qWaitForWindowExposed(&about))
+        return false;
+    gesture(about);
+    return about.isVisible();
+}
 
 } // namespace
 
-TEST_F(AboutWindow, NamesTheGameItsMakerAndItsVersion)
+TEST(AboutWindow, NamesTheGameItsMakerAndItsVersion)
 {
+    AboutForm about;
     EXPECT_EQ(about.windowTitle(), QStringLiteral("About TAVOK"));
-    const QStringList lines = text->toPlainText().split(QLatin1Char('\n'));
+    const QStringList lines = about.findChild<QTextEdit*>()->toPlainText().split(QLatin1Char('\n'));
     ASSERT_EQ(lines.size(), 5);
     EXPECT_EQ(lines.mid(0, 3).join(QString()), QString());
     EXPECT_EQ(lines[3], QStringLiteral("TAVOK by Dravo"));
     EXPECT_TRUE(lines[4].startsWith(QStringLiteral("email "))) << lines[4].toStdString();
 }
 
-TEST_F(AboutWindow, OkClosesIt)
+TEST(AboutWindow, ClosesFourWays)
 {
-    QTest::mouseClick(about.findChild<QPushButton*>(), Qt::LeftButton);
-    EXPECT_FALSE(about.isVisible());
+    const std::vector<std::pair<const char*, Gesture>> ways{
+        {"OK",
+         [](AboutForm& a) { QTest::mouseClick(a.findChild<QPushButton*>(), Qt::LeftButton); }},
+        {"a press on its surface",
+         [](AboutForm& a) { QTest::mousePress(&a, Qt::RightButton, {}, Surface(a)); }},
+        {"a click on the text", [](AboutForm& a) { QTest::mouseClick(TextOf(a), Qt::LeftButton); }},
+        {"the frame", [](AboutForm& a) { a.close(); }},
+    };
+    for (const auto& [way, gesture] : ways)
+        EXPECT_FALSE(StaysOpenAfter(gesture)) << way;
 }
 
-TEST_F(AboutWindow, APressOnItsSurfaceClosesIt)
+TEST(AboutWindow, ThePictureTheVersionAndAReleaseOffTheTextLeaveItOpen)
 {
-    QTest::mousePress(&about, Qt::RightButton, {}, surface());
-    EXPECT_FALSE(about.isVisible());
+    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) {
+        for (QLabel* label : a.findChildren<QLabel*>())
+            QTest::mouseClick(label, Qt::LeftButton);
+    }));
+    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) {
+        QWidget* text = TextOf(a);
+        QTest::mousePress(text, Qt::LeftButton, {}, text->rect().center());
+        QTest::mouseRelease(text, Qt::LeftButton, {}, text->rect().bottomRight() + QPoint(9, 9));
+    }));
+    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) { QTest::mousePress(TextOf(a), Qt::LeftButton); }));
 }
 
-TEST_F(AboutWindow, ClosingFromTheFrameClosesIt)
-{
-    EXPECT_TRUE(about.close());
-    EXPECT_FALSE(about.isVisible());
-}
-
-TEST_F(AboutWindow, AReleaseOverTheTextClosesItThePressAndAReleaseElsewhereDoNot)
-{
-    QWidget* viewport = text->viewport();
-    const QPoint inside = viewport->rect().center();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, inside);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {},
-                        viewport->rect().bottomRight() + QPoint(9, 9));
-    EXPECT_TRUE(about.isVisible());
-    QTest::mousePress(viewport, Qt::LeftButton, {}, inside);
-    EXPECT_TRUE(about.isVisible());
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, inside);
-    EXPECT_FALSE(about.isVisible());
-}
-
-TEST_F(AboutWindow, ThePictureAndTheVersionDoNotReact)
-{
-    for (QLabel* label : about.findChildren<QLabel*>())
-        QTest::mouseClick(label, Qt::LeftButton);
-    EXPECT_TRUE(about.isVisible());
-}
-
-TEST(AboutModal, ShowModalReturnsOnceTheWindowIsClosed)
+TEST(AboutWindow, ShowModalReturnsOnceTheWindowIsClosed)
 {
     QWidget board;
     board.show();

@@ -3,10 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
-#include <QTextBrowser>
 
 TestPage::TestPage()
 {
@@ -65,14 +63,4 @@ QPoint LinkPoint(QTextBrowser* view, const QString& href)
 void ClickLink(QTextBrowser* view, const QString& href)
 {
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, LinkPoint(view, href));
-}
-
-bool PageShows(QTextBrowser* view, const QString& text)
-{
-    return view->toPlainText().contains(text);
-}
-
-int ScrollOf(QTextBrowser* view)
-{
-    return view->verticalScrollBar()->value();
 }

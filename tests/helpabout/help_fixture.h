@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QPoint>
+#include <QScrollBar>
 #include <QTemporaryDir>
-
-class QTextBrowser;
+#include <QTextBrowser>
 
 // A page written for the test: links at the top, two places far enough down that a
 // jump scrolls, links that lead out of the page, and a picture beside it in help/.
@@ -22,5 +22,11 @@ QTextBrowser* ViewOf(QWidget* browser);
 // Where a link is in the view's viewport; (-1, -1) when the page has no such link.
 QPoint LinkPoint(QTextBrowser* view, const QString& href);
 void ClickLink(QTextBrowser* view, const QString& href);
-bool PageShows(QTextBrowser* view, const QString& text);
-int ScrollOf(QTextBrowser* view);
+inline bool PageShows(QTextBrowser* view, const QString& text)
+{
+    return view->toPlainText().contains(text);
+}
+inline int ScrollOf(QTextBrowser* view)
+{
+    return view->verticalScrollBar()->value();
+}
