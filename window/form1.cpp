@@ -146,9 +146,12 @@ void Form1::CreateControls()
     Score1->setGeometry(PxRect(Layout::Score1));
     Score1->Visible(false);
 
-    MovesList = UserControl1::FromBlock(MovesListBlock(), this);
-    MovesList->setObjectName(QStringLiteral("MovesList"));
+    // The log keeps the platform's plain font, not the window's bold one: it is made
+    // apart and only then put on the window.
+    MovesList = UserControl1::FromBlock(MovesListBlock(), nullptr);
     MovesList->setFont(SansSerifFont(false));
+    MovesList->setParent(this);
+    MovesList->setObjectName(QStringLiteral("MovesList"));
     MovesList->setGeometry(PxRect(Layout::MovesList));
 
     Hand = new Quillet(this);
