@@ -112,7 +112,6 @@ bool Quillet::enabled() const
 void Quillet::enabled(bool New_enabled)
 {
     setEnabled(New_enabled);
-    update();
 }
 
 void Quillet::picture(const QPixmap& New_picture)
