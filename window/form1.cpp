@@ -1,5 +1,6 @@
 #include "window/form1.h"
 
+#include "assets/pictures.h"
 #include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "controls/twips.h"
@@ -70,7 +71,7 @@ Form1::Form1(QWidget* parent) : QWidget(parent)
 {
     InstallFontSubstitutes();
     setWindowTitle(QStringLiteral("TAVOK"));
-    setWindowIcon(QIcon(QStringLiteral(":/assets/board.png")));
+    setWindowIcon(QIcon(Pictures::Board));
     setFont(SansSerifFont(true));
     setFixedSize(Px(Layout::ClientWidth), Px(Layout::ClientHeight));
     // Mouse moves over the bare surface end a hover look.
@@ -158,7 +159,7 @@ void Form1::CreateControls()
     Hand->setObjectName(QStringLiteral("Hand"));
     Hand->Move(Layout::Hand.left, Layout::Hand.top, Layout::Hand.width, Layout::Hand.height);
     MakeFlat(Hand);
-    Hand->picture(QPixmap(QStringLiteral(":/assets/hand.png")));
+    Hand->picture(Pictures::load(Pictures::Hand));
     Hand->Visible(false);
 
     StartBeads = new QSlider(Qt::Horizontal, this);
@@ -189,15 +190,6 @@ void Form1::CreateControls()
     Label2->setFont(ArialFont(8.25, true));
     SetTextColors(Label2, Qt::white, Qt::black);
 
-    Image4 = MakeLabel(this, "Image4", {});
-    Image4->setGeometry(PxRect(Layout::Image4));
-    Image4->setPixmap(QPixmap(QStringLiteral(":/assets/disc_green_raised.png")));
-    Image4->hide();
-    Image3 = MakeLabel(this, "Image3", {});
-    Image3->setGeometry(PxRect(Layout::Image3));
-    Image3->setPixmap(QPixmap(QStringLiteral(":/assets/disc_red_raised.png")));
-    Image3->hide();
-
     // Stacking: the hand over the letters, the score board over the log.
     Hand->raise();
     Score1->raise();
@@ -205,10 +197,19 @@ void Form1::CreateControls()
 
 void Form1::CreateBoard()
 {
-    const QPixmap greenRaised(QStringLiteral(":/assets/disc_green_raised.png"));
-    const QPixmap greenSunken(QStringLiteral(":/assets/disc_green_sunken.png"));
-    const QPixmap redRaised(QStringLiteral(":/assets/disc_red_raised.png"));
-    const QPixmap redSunken(QStringLiteral(":/assets/disc_red_sunken.png"));
+    // The hidden pictures that hold the raised discs the pots take their faces from.
+    Image4 = MakeLabel(this, "Image4", {});
+    Image4->setGeometry(PxRect(Layout::Image4));
+    Image4->setPixmap(Pictures::load(Pictures::DiscGreenRaised));
+    Image4->hide();
+    Image3 = MakeLabel(this, "Image3", {});
+    Image3->setGeometry(PxRect(Layout::Image3));
+    Image3->setPixmap(Pictures::load(Pictures::DiscRedRaised));
+    Image3->hide();
+    const QPixmap greenRaised = Image4->pixmap();
+    const QPixmap greenSunken = Pictures::load(Pictures::DiscGreenSunken);
+    const QPixmap redRaised = Image3->pixmap();
+    const QPixmap redSunken = Pictures::load(Pictures::DiscRedSunken);
     for (int s = 0; s < SlotCount; ++s) {
         auto* pot = new Quillet(this);
         pot->setObjectName(QStringLiteral("Pots%1").arg(s));
@@ -269,11 +270,11 @@ void Form1::CreateBoard()
     Image1 = MakeLabel(this, "Image1", {});
     Image1->setGeometry(PxRect(Layout::Image1));
     Image1->setScaledContents(true);
-    Image1->setPixmap(QPixmap(QStringLiteral(":/assets/arrow_red.png")));
+    Image1->setPixmap(Pictures::load(Pictures::ArrowRed));
     Image2 = MakeLabel(this, "Image2", {});
     Image2->setGeometry(PxRect(Layout::Image2));
     Image2->setScaledContents(true);
-    Image2->setPixmap(QPixmap(QStringLiteral(":/assets/arrow_green.png")));
+    Image2->setPixmap(Pictures::load(Pictures::ArrowGreen));
 }
 
 static QGroupBox* MakeFrame(QWidget* parent, const char* name)

@@ -1,0 +1,173 @@
+#include "controls/marlet.h"
+#include "controls/quillet.h"
+#include "helpabout/helpform.h"
+#include "window/form1.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class MainWindow : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        form.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+        QApplication::setActiveWindow(&form);
+    }
+
+    template <typename T> T* Child(const QString& name)
+    {
+        T* child = form.findChild<T*>(name);
+        EXPECT_NE(child, nullptr) << name.toStdString();
+        return child;
+    }
+    Quillet* Pot(int slot) { return Child<Quillet>(QStringLiteral("Pots%1").arg(slot)); }
+
+    // A real move of the mouse onto a widget, as the window system would deliver it.
+    void MoveOnto(QWidget* widget)
+    {
+        const QPoint at = widget->rect().center();
+        QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(widget, &move);
+    }
+
+    qint64 PictureOf(int slot) { return Pot(slot)->picture().cacheKey(); }
+    qint64 RaisedGreen() { return Child<QLabel>(QStringLiteral("Image4"))->pixmap().cacheKey(); }
+    qint64 SunkenGreen() { return PictureOf(HumanBank); }
+
+    Form1 form;
+};
+
+} // namespace
+
+TEST_F(MainWindow, StoredPlaceholdersNeverReachTheScreen)
+{
+    for (int s = 0; s < SlotCount; ++s)
+        EXPECT_NE(Pot(s)->caption(), QStringLiteral("999"));
+    EXPECT_EQ(Child<QLabel>(QStringLiteral("Label2"))->text(),
+              QStringLiteral("Start with 3 beads"));
+    EXPECT_EQ(Child<Quillet>(QStringLiteral("Mess"))->caption(), QStringLiteral("YOUR MOVE NOW"));
+    EXPECT_EQ(Child<QLabel>(QStringLiteral("TotalB1"))->text(), QStringLiteral("0"));
+    EXPECT_EQ(Child<QLabel>(QStringLiteral("TotalB2"))->text(), QStringLiteral("0"));
+    EXPECT_EQ(Child<QSlider>(QStringLiteral("StartBeads"))->value(), 3);
+    EXPECT_FALSE(Child<Quillet>(QStringLiteral("Hand"))->isVisible());
+    EXPECT_FALSE(Child<Marlets::Marlet>(QStringLiteral("Score1"))->isVisible());
+    EXPECT_FALSE(Child<QLabel>(QStringLiteral("Image3"))->isVisible());
+    EXPECT_FALSE(Child<QLabel>(QStringLiteral("Image4"))->isVisible());
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("TAVOK"));
+    EXPECT_FALSE(form.windowIcon().isNull());
+    EXPECT_EQ(form.minimumSize(), form.maximumSize()) << "the window is not resizable";
+}
+
+TEST_F(MainWindow, FacesShowRaisedDiscsForCountsAndHollowsForEmptyPots)
+{
+    QTest::mouseClick(Pot(0), Qt::LeftButton);
+    EXPECT_EQ(Pot(0)->caption(), QString());
+    EXPECT_EQ(Pot(0)->Tag(), QString());
+    EXPECT_EQ(PictureOf(0), SunkenGreen());
+    EXPECT_FALSE(Pot(0)->isEnabled());
+    EXPECT_EQ(PictureOf(1), RaisedGreen());
+    EXPECT_EQ(Pot(HumanBank)->caption(), QStringLiteral("0"));
+    // The computer took pot A's opposite: its empty red pot is a red hollow.
+    EXPECT_EQ(Pot(12)->caption(), QString());
+    EXPECT_EQ(PictureOf(12), PictureOf(ComputerBank));
+}
+
+TEST_F(MainWindow, HoverLookStaysOverALetterAndEndsOverTheSurface)
+{
+    MoveOnto(Pot(2));
+    EXPECT_EQ(PictureOf(2), SunkenGreen());
+    EXPECT_EQ(Pot(2)->caption(), QStringLiteral("3"));
+    MoveOnto(Child<QLabel>(QStringLiteral("PotName2")));
+    EXPECT_EQ(PictureOf(2), SunkenGreen()) << "a letter is no part of the window's surface";
+    MoveOnto(Pot(3));
+    EXPECT_EQ(PictureOf(2), RaisedGreen());
+    EXPECT_EQ(PictureOf(3), SunkenGreen());
+    MoveOnto(&form);
+    EXPECT_EQ(PictureOf(3), RaisedGreen());
+    EXPECT_EQ(form.game().HoverPot, -1);
+}
+
+TEST_F(MainWindow, ComputerPotsHaveNoHoverLook)
+{
+    MoveOnto(Pot(1));
+    form.game().GameFinished = true;
+    form.Pots_MouseMove(9, 0, 0, 0, 0);
+    EXPECT_EQ(form.game().HoverPot, 1);
+    EXPECT_EQ(PictureOf(1), SunkenGreen());
+}
+
+TEST_F(MainWindow, APauseWaitsOnEventsUntilTheBarIsClicked)
+{
+    auto* mess = Child<Quillet>(QStringLiteral("Mess"));
+    QStringList captions;
+    std::function<void()> clickWhenPaused = [&] {
+        if (form.game().WaitingForClick == 0)
+            return;
+        captions << mess->caption();
+        QTest::mouseClick(mess, Qt::LeftButton);
+        QTimer::singleShot(20, clickWhenPaused);
+    };
+    form.Pausex_Click();
+    QTimer::singleShot(20, clickWhenPaused);
+    QTest::mouseClick(Pot(0), Qt::LeftButton);
+    EXPECT_EQ(captions,
+              (QStringList{QStringLiteral("Computer move> Move   3 from B; click to continue"),
+                           QStringLiteral("Computer move> Last pot A is empty: 4 taken; click "
+                                          "to continue")}));
+    EXPECT_EQ(mess->caption(), QStringLiteral("YOUR MOVE NOW"));
+}
+
+TEST_F(MainWindow, KeysReachTheGameAndTheFocusedSliderAlike)
+{
+    auto* slider = Child<QSlider>(QStringLiteral("StartBeads"));
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Right);
+    EXPECT_EQ(slider->value(), 4);
+    EXPECT_EQ(form.game().KeyboardPot, 0);
+    QTest::keyClick(slider, Qt::Key_Return);
+    EXPECT_EQ(form.game().Beads[0], 0) << "Enter played pot A";
+    EXPECT_FALSE(slider->isEnabled());
+}
+
+TEST_F(MainWindow, TheScoreBoardOpensOnAnyButtonsRelease)
+{
+    auto* score = Child<Marlets::Marlet>(QStringLiteral("Score1"));
+    QTest::mouseClick(Child<Quillet>(QStringLiteral("Scorex")), Qt::RightButton);
+    EXPECT_TRUE(score->isVisible());
+}
+
+TEST_F(MainWindow, TheSliderLaysOutEveryPotAnewBeforeTheFirstMove)
+{
+    Child<QSlider>(QStringLiteral("StartBeads"))->setValue(12);
+    for (int s = 0; s < SlotCount; ++s)
+        EXPECT_EQ(Pot(s)->caption(), IsBank(s) ? QStringLiteral("0") : QStringLiteral("12"));
+    EXPECT_EQ(Child<QLabel>(QStringLiteral("Label2"))->text(),
+              QStringLiteral("Start with 12 beads"));
+    EXPECT_EQ(Child<QLabel>(QStringLiteral("TotalB2"))->text(), QStringLiteral("0"));
+}
+
+TEST_F(MainWindow, QuitClosesTheHelpWindowToo)
+{
+    QTest::mouseClick(Child<Quillet>(QStringLiteral("Helpx")), Qt::LeftButton);
+    QPointer<HelpForm> help = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* h = qobject_cast<HelpForm*>(w))
+            help = h;
+    ASSERT_TRUE(help);
+    EXPECT_TRUE(help->isVisible());
+    help->hide();
+    QTest::mouseClick(Child<Quillet>(QStringLiteral("Quitx")), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(help.isNull() || !help->isVisible());
+    EXPECT_FALSE(form.isVisible());
+}
