@@ -67,5 +67,3 @@ void BM_ComputerMoveWholeTurn(benchmark::State& state)
 BENCHMARK(BM_ComputerMoveWholeTurn)->Arg(3)->Arg(99);
 
 } // namespace
-
-BENCHMARK_MAIN();
