@@ -171,3 +171,19 @@ TEST_F(MainWindow, QuitClosesTheHelpWindowToo)
     EXPECT_TRUE(help.isNull() || !help->isVisible());
     EXPECT_FALSE(form.isVisible());
 }
+
+#include <QProcess>
+
+// Closing the window, by its frame or by Exit, ends the program at once, also while a
+// computer's move waits for a click.
+TEST(EndingInAPause, TheProgramEndsAtOnce)
+{
+    for (const char* how : {"close", "quit"}) {
+        QProcess child;
+        child.start(QStringLiteral(QUIT_DURING_PAUSE), {QString::fromLatin1(how)});
+        ASSERT_TRUE(child.waitForFinished(10000)) << how;
+        EXPECT_EQ(child.exitStatus(), QProcess::NormalExit) << how;
+        EXPECT_EQ(child.exitCode(), 0)
+            << how << ": " << child.readAllStandardOutput().toStdString();
+    }
+}
