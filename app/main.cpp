@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int NoDisplay = 3;
+
 // Without a display Qt would abort with a long message; one clear line is kinder.
 bool HasDisplay()
 {
@@ -25,7 +27,7 @@ int main(int argc, char* argv[])
     if (!HasDisplay()) {
         std::fprintf(stderr, "tavok: no display found (DISPLAY is not set); "
                              "start it from a desktop session, or under xvfb-run\n");
-        return 1;
+        return NoDisplay;
     }
     QApplication app(argc, argv);
     Form1 form;
