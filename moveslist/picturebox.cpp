@@ -17,23 +17,17 @@ namespace {
 
 constexpr double TwipsPerInch = 1440.0;
 
-QPainter::CompositionMode RasterOp(int16_t drawMode)
+// A pixel under a draw mode; only the colour bits take part.
+QRgb UnderMode(int16_t drawMode, QRgb pen, QRgb destination)
 {
     switch (drawMode) {
     case PictureBox::MergeNotPen:
-        return QPainter::RasterOp_SourceOrNotDestination;
+        return 0xFF000000u | ((pen | ~destination) & 0xFFFFFFu);
     case PictureBox::Invert:
-        return QPainter::RasterOp_NotDestination;
+        return 0xFF000000u | (~destination & 0xFFFFFFu);
     default:
-        return QPainter::CompositionMode_Source;
+        return 0xFF000000u | (pen & 0xFFFFFFu);
     }
-}
-
-// Lines and strips are drawn pixel for pixel: an inverting mode hit twice on one
-// pixel would take its own mark off again.
-void PlainPixels(QPainter& painter)
-{
-    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 } // namespace
@@ -74,56 +68,91 @@ void PictureBox::Cls()
 void PictureBox::Print(const QString& text)
 {
     syncImage();
+    const LaidOutText& laidOut = layOut(text);
     QPainter painter(&canvas);
     painter.setFont(drawFont);
     painter.setPen(olecolor::ToQColor(foreColour));
-    const QFontMetrics metrics(drawFont, &canvas);
     const int top = PixelY(currentY);
-    painter.drawText(QPoint(0, top + metrics.ascent()), text);
+    painter.drawStaticText(QPoint(0, top), laidOut.text);
     currentY += TextHeight(text);
-    drawn(QRect(0, top, canvas.width(), metrics.height()));
+    drawn(QRect(0, top, canvas.width(), drawMetrics().height()));
 }
 
 double PictureBox::TextWidth(const QString& text) const
 {
     syncImage();
-    return QFontMetrics(drawFont, &canvas).horizontalAdvance(text) * TwipsPerPixelX();
+    return layOut(text).width * TwipsPerPixelX();
 }
 
 double PictureBox::TextHeight(const QString& text) const
 {
     syncImage();
     const auto lines = static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
-    return lines * QFontMetrics(drawFont, &canvas).height() * TwipsPerPixelY();
+    return lines * drawMetrics().height() * TwipsPerPixelY();
 }
 
+// The modes are applied pixel by pixel: a painter would hand a raster-op line to its
+// thread pool, which costs more than the whole row. No pixel is touched twice, so an
+// inverting mode never takes its own mark off again.
 void PictureBox::Line(QPointF from, QPointF to, int32_t colour)
 {
     syncImage();
-    QPainter painter(&canvas);
-    PlainPixels(painter);
-    painter.setCompositionMode(RasterOp(drawMode));
-    painter.setPen(QPen(olecolor::ToQColor(colour), 0));
-    const QPoint a(PixelX(from.x()), PixelY(from.y()));
-    const QPoint b(PixelX(to.x()), PixelY(to.y()));
-    // The end point is not part of the line; a horizontal line across the canvas
-    // ends past its edge anyway.
-    if (a.y() == b.y())
-        painter.drawLine(a, QPoint(b.x() - (b.x() > a.x() ? 1 : -1), b.y()));
-    else
-        painter.drawLine(a, b);
-    drawn(QRect(a, b).normalized().adjusted(-1, -1, 1, 1));
+    const QRgb pen = olecolor::ToQColor(colour).rgb();
+    QPoint at(PixelX(from.x()), PixelY(from.y()));
+    const QPoint end(PixelX(to.x()), PixelY(to.y()));
+    const int dx = std::abs(end.x() - at.x());
+    const int dy = -std::abs(end.y() - at.y());
+    const int stepX = at.x() < end.x() ? 1 : -1;
+    const int stepY = at.y() < end.y() ? 1 : -1;
+    int error = dx + dy;
+    const QRect area = QRect(at, end).normalized();
+    if (at == end)
+        return;
+    if (at.y() == end.y()) {
+        horizontalLine(at.y(), std::min(at.x(), end.x() + 1), std::max(at.x(), end.x() - 1), pen);
+        drawn(area);
+        return;
+    }
+    while (at != end) {
+        plot(at, pen);
+        const int twice = 2 * error;
+        if (twice >= dy) {
+            error += dy;
+            at.rx() += stepX;
+        }
+        if (twice <= dx) {
+            error += dx;
+            at.ry() += stepY;
+        }
+    }
+    drawn(area);
 }
 
 void PictureBox::FilledBox(QPointF from, QPointF to, int32_t colour)
 {
     syncImage();
-    const QRect area = PixelRect(from, to);
-    QPainter painter(&canvas);
-    PlainPixels(painter);
-    painter.setCompositionMode(RasterOp(drawMode));
-    painter.fillRect(area, olecolor::ToQColor(colour));
+    const QRgb pen = olecolor::ToQColor(colour).rgb();
+    const QRect area = PixelRect(from, to).intersected(canvas.rect());
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        horizontalLine(y, area.left(), area.right(), pen);
     drawn(area);
+}
+
+void PictureBox::horizontalLine(int y, int left, int right, QRgb pen)
+{
+    if (y < 0 || y >= canvas.height())
+        return;
+    auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(y));
+    for (int x = std::max(left, 0); x <= std::min(right, canvas.width() - 1); ++x)
+        line[x] = UnderMode(drawMode, pen, line[x]);
+}
+
+void PictureBox::plot(QPoint at, QRgb pen)
+{
+    if (!canvas.rect().contains(at))
+        return;
+    auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(at.y()));
+    line[at.x()] = UnderMode(drawMode, pen, line[at.x()]);
 }
 
 void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPointF sourceAt,
@@ -165,6 +194,47 @@ void PictureBox::Picture(const QImage& New_Picture)
     picture = New_Picture;
     if (!picture.isNull())
         resize(picture.size());
+}
+
+void PictureBox::FontName(const QString& New_FontName)
+{
+    if (New_FontName == drawFont.family())
+        return;
+    drawFont.setFamily(New_FontName);
+    metrics.reset();
+}
+
+// A log repaints the same lines over and over, each with its text shaped for print
+// and for measure: the shaping is kept, by font name and text.
+const PictureBox::LaidOutText& PictureBox::layOut(const QString& text) const
+{
+    const auto key = std::make_pair(drawFont.family(), text);
+    const auto found = laidOutTexts.constFind(key);
+    if (found != laidOutTexts.constEnd())
+        return *found;
+    if (laidOutTexts.size() >= MaxLaidOutTexts)
+        laidOutTexts.clear();
+    QStaticText staticText(text);
+    staticText.setTextFormat(Qt::PlainText);
+    staticText.setPerformanceHint(QStaticText::AggressiveCaching);
+    staticText.prepare(QTransform(), drawFont);
+    return *laidOutTexts.insert(key, {staticText, drawMetrics().horizontalAdvance(text)});
+}
+
+void PictureBox::FontSize(float New_FontSize)
+{
+    drawFont.setPointSizeF(New_FontSize);
+    metrics.reset();
+    laidOutTexts.clear();
+}
+
+// Rows set the same font name over and over: the measures are kept until it changes.
+const QFontMetrics& PictureBox::drawMetrics() const
+{
+    syncImage();
+    if (!metrics)
+        metrics.emplace(drawFont, &canvas);
+    return *metrics;
 }
 
 const QImage& PictureBox::image() const

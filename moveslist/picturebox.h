@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QFontMetrics>
+#include <QHash>
 #include <QImage>
 #include <QPointF>
+#include <QStaticText>
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
+#include <utility>
 
 // A drawing surface of the list: Picture1 (the canvas), Picture2 (the row picture)
 // and Picture3 (one row's text). What is drawn goes into a kept image, which the
@@ -33,9 +38,9 @@ public:
     void ForeColor(int32_t New_ForeColor) { foreColour = New_ForeColor; }
     // The font that Print and the measures use; it starts as the widget's own.
     QString FontName() const { return drawFont.family(); }
-    void FontName(const QString& New_FontName) { drawFont.setFamily(New_FontName); }
+    void FontName(const QString& New_FontName);
     float FontSize() const { return static_cast<float>(drawFont.pointSizeF()); }
-    void FontSize(float New_FontSize) { drawFont.setPointSizeF(New_FontSize); }
+    void FontSize(float New_FontSize);
     int16_t DrawMode() const { return drawMode; }
     void DrawMode(int16_t New_DrawMode) { drawMode = New_DrawMode; }
 
@@ -73,6 +78,15 @@ protected:
 private:
     // Brings the kept image to the widget's size, keeping what is drawn.
     void syncImage() const;
+    void plot(QPoint at, QRgb pen);
+    void horizontalLine(int y, int left, int right, QRgb pen);
+    const QFontMetrics& drawMetrics() const;
+    struct LaidOutText {
+        QStaticText text;
+        int width = 0;
+    };
+    const LaidOutText& layOut(const QString& text) const;
+    static constexpr qsizetype MaxLaidOutTexts = 512;
     int PixelX(double twips) const;
     int PixelY(double twips) const;
     QRect PixelRect(QPointF from, QPointF to) const;
@@ -80,6 +94,8 @@ private:
 
     mutable QImage canvas;
     QFont drawFont;
+    mutable std::optional<QFontMetrics> metrics;
+    mutable QHash<std::pair<QString, QString>, LaidOutText> laidOutTexts;
     QImage picture;
     int32_t backColour;
     int32_t foreColour;

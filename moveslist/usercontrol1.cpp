@@ -108,6 +108,13 @@ void UserControl1::createChildren()
     command1 = new QLabel(this);
     command1->setPixmap(DropArrow());
     command1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    Picture1->setObjectName(QStringLiteral("Picture1"));
+    Picture2->setObjectName(QStringLiteral("Picture2"));
+    Picture3->setObjectName(QStringLiteral("Picture3"));
+    Text1->setObjectName(QStringLiteral("Text1"));
+    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    command1->setObjectName(QStringLiteral("command1"));
 }
 
 const QImage& UserControl1::canvas() const

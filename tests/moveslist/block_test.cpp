@@ -49,16 +49,21 @@ constexpr int FirstEntry = 17;
 constexpr int FontNameEntry = FirstEntry + 32 + 32;
 constexpr int FontSizeEntry = FontNameEntry + 60;
 
-QByteArray With32(QByteArray block, int at, uint32_t value)
+// The block with a number written over it at `at`.
+template <typename T> QByteArray With(QByteArray block, int at, T value)
 {
     qToLittleEndian(value, block.data() + at);
     return block;
 }
 
-QByteArray With16(QByteArray block, int at, uint16_t value)
+QByteArray With32(const QByteArray& block, int at, uint32_t value)
 {
-    qToLittleEndian(value, block.data() + at);
-    return block;
+    return With<uint32_t>(block, at, value);
+}
+
+QByteArray With16(const QByteArray& block, int at, uint16_t value)
+{
+    return With<uint16_t>(block, at, value);
 }
 
 int ReadError(const QByteArray& block)
@@ -66,28 +71,21 @@ int ReadError(const QByteArray& block)
     return ErrorCode([&] { lbblock::Read(block); });
 }
 
-TEST(PropertyBlock, TheVectorIsWellFormed)
-{
-    ASSERT_EQ(MovesListVector.size(), 173);
-}
-
 TEST(PropertyBlock, ReadsTheLogsBlock)
 {
+    ASSERT_EQ(MovesListVector.size(), 173);
     const PropertyBag bag = lbblock::Read(MovesListVector);
     ASSERT_EQ(bag.entries().size(), 4u);
     const auto& e = bag.entries();
-    EXPECT_EQ(e[0].key, "_extentx");
-    EXPECT_EQ(e[0].type, PropertyType::Long);
-    EXPECT_EQ(e[0].value, AnyValue(10028));
-    EXPECT_EQ(e[0].hash, 0x4757F20Bu);
-    EXPECT_EQ(e[1].value, AnyValue(503));
-    EXPECT_EQ(e[1].hash, 0x4757F20Au);
-    EXPECT_EQ(e[2].type, PropertyType::Text);
-    EXPECT_EQ(e[2].value, AnyValue("MS Sans Serif"));
-    EXPECT_EQ(e[2].hash, 0xB35657BBu);
-    EXPECT_EQ(e[3].type, PropertyType::Single);
-    EXPECT_EQ(e[3].value, AnyValue(8.25));
-    EXPECT_EQ(e[3].hash, 0x9354B93Bu);
+    EXPECT_EQ(e[0].key + e[1].key + e[2].key + e[3].key, "_extentx_extentyfontnamefontsize");
+    EXPECT_EQ(std::make_tuple(e[0].type, e[0].value, e[0].hash),
+              std::make_tuple(PropertyType::Long, AnyValue(10028), 0x4757F20Bu));
+    EXPECT_EQ(std::make_tuple(e[1].type, e[1].value, e[1].hash),
+              std::make_tuple(PropertyType::Long, AnyValue(503), 0x4757F20Au));
+    EXPECT_EQ(std::make_tuple(e[2].type, e[2].value, e[2].hash),
+              std::make_tuple(PropertyType::Text, AnyValue("MS Sans Serif"), 0xB35657BBu));
+    EXPECT_EQ(std::make_tuple(e[3].type, e[3].value, e[3].hash),
+              std::make_tuple(PropertyType::Single, AnyValue(8.25), 0x9354B93Bu));
     // Keys are found without regard to case.
     EXPECT_EQ(bag.ReadProperty("FontName", {}), AnyValue("MS Sans Serif"));
     EXPECT_EQ(bag.ReadProperty("_ExtentY", {}), AnyValue(503));
@@ -127,18 +125,16 @@ TEST(PropertyBlock, RoundTripOfEveryKindOfValue)
     EXPECT_EQ(qFromLittleEndian<uint32_t>(block.constData() + 5), block.size() - 9);
 }
 
-TEST(PropertyBlock, EmptyBagGivesAnEmptyBlockThatReads)
+TEST(PropertyBlock, EmptyAndLoneEntryBlocks)
 {
-    const QByteArray block = lbblock::Write(PropertyBag());
-    EXPECT_EQ(block.size(), 17);
-    EXPECT_TRUE(lbblock::Read(block).entries().empty());
-}
+    const QByteArray empty = lbblock::Write(PropertyBag());
+    EXPECT_EQ(empty.size(), 17);
+    EXPECT_TRUE(lbblock::Read(empty).entries().empty());
 
-TEST(PropertyBlock, ALoneEntryStepsBackToItself)
-{
     PropertyBag bag;
     bag.WriteProperty("Mode", PropertyType::Integer, 1, 0);
     const QByteArray block = lbblock::Write(bag);
+    // A lone entry steps back to itself.
     EXPECT_EQ(qFromLittleEndian<int32_t>(block.constData() + FirstEntry + 8), 0);
     EXPECT_EQ(lbblock::Read(block).ReadProperty("mode", 0), AnyValue(1));
 }

@@ -192,43 +192,25 @@ TEST_F(Scrolling, AResizeMovesAListOfItemsToValueOne)
     EXPECT_EQ(list->state().TopRow, -1);
 }
 
-TEST(Resizing, OneItemStaysAtTheTop)
-{
-    auto list = MovesListAsSetUp();
-    ListProbe probe(*list);
-    AppendItems(*list, 1);
-    list->show();
-    list->resize(list->width() + 10, list->height());
-    EXPECT_EQ(probe.scrollValue(), 0);
-    EXPECT_EQ(list->state().TopRow, -1);
-}
-
-TEST(Resizing, TheHostsHeightMovesNothingInside)
-{
-    auto list = MovesListAsSetUp();
-    ListProbe probe(*list);
-    AppendItems(*list, 2);
-    const int canvasHeight = probe.canvasHeight();
-    const ListState before = list->state();
-    list->show();
-    list->resize(list->width(), list->height() + 50);
-    EXPECT_EQ(probe.canvasHeight(), canvasHeight);
-    EXPECT_EQ(list->state().RowsInView, before.RowsInView);
-    EXPECT_EQ(list->state().ViewHeight, before.ViewHeight);
-}
-
-TEST(Resizing, AWiderControlRefitsTheCanvasAndKeepsItsRows)
+TEST(Resizing, WidthRefitsTheCanvasHeightMovesNothingAndOneItemStaysOnTop)
 {
     auto list = MovesListAsSetUp();
     ListProbe probe(*list);
     AppendItems(*list, 1);
     const QImage before = list->canvas().copy();
+    const ListState measures = list->state();
     const int scrollBar = list->width() - probe.canvasWidth();
     list->show();
-    list->resize(list->width() + 40, list->height());
+    list->resize(list->width() + 40, list->height() + 50);
     EXPECT_EQ(probe.canvasWidth(), before.width() + 40);
     EXPECT_EQ(list->width() - probe.canvasWidth(), scrollBar);
+    EXPECT_EQ(probe.canvasHeight(), before.height());
+    EXPECT_EQ(list->state().RowsInView, measures.RowsInView);
+    EXPECT_EQ(list->state().ViewHeight, measures.ViewHeight);
+    // The rows stay as drawn, and a lone item cannot be scrolled to value 1.
     EXPECT_EQ(list->canvas().copy(before.rect()), before);
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_EQ(list->state().TopRow, -1);
 }
 
 } // namespace

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "moveslist/itemrecord.h"
+#include "moveslist/picturebox.h"
 #include "moveslist/usercontrol1.h"
 
-#include <QFont>
-#include <QString>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
 
 #include <functional>
 #include <memory>
@@ -13,30 +16,33 @@ class ListProbe {
 public:
     explicit ListProbe(UserControl1& list) : list(list) {}
 
-    bool canvasHidden() const;
-    bool scrollBarHidden() const;
-    int canvasHeight() const;
-    int canvasWidth() const;
-    int scrollValue() const;
-    int scrollMaximum() const;
+    bool canvasHidden() const { return list.Picture1->isHidden(); }
+    bool scrollBarHidden() const { return list.VScroll1->isHidden(); }
+    int canvasHeight() const { return list.Picture1->height(); }
+    int canvasWidth() const { return list.Picture1->width(); }
+    void hideCanvas() { list.Picture1->hide(); }
+    int scrollValue() const { return list.VScroll1->value(); }
+    int scrollMaximum() const { return list.VScroll1->maximum(); }
     // Moves the bar as a user would; the list repaints inside this call.
-    void setScrollValue(int value);
+    void setScrollValue(int value) { list.VScroll1->setValue(value); }
 
-    void DrawRows(int16_t first, int16_t last);
-    void DrawOneRow(int16_t row);
-    void InvertRowStrip(int16_t row);
-    void hideCanvas();
+    void DrawRows(int16_t first, int16_t last) { list.DrawRows(first, last); }
+    void DrawOneRow(int16_t row) { list.DrawOneRow(row); }
+    void InvertRowStrip(int16_t row) { list.InvertRowStrip(row); }
 
-    QString LastAddedIndex() const;
-    QString ChosenIndex() const;
-    void ChosenIndex(const QString& index);
-    QString Text1() const;
-    void Text1(const QString& text);
+    QString LastAddedIndex() const { return list.LastAddedIndex(); }
+    QString ChosenIndex() const { return list.ChosenIndex(); }
+    void ChosenIndex(const QString& index) { list.ChosenIndex(index); }
+    QString Text1() const { return list.Text1->text(); }
+    void Text1(const QString& text) { list.Text1->setText(text); }
 
     // The upper bound of Items: -1 while it has no storage.
-    int itemsUpperBound() const;
+    int itemsUpperBound() const { return static_cast<int>(list.st.Items.size()) - 1; }
     // Column c of item i (from 1), as stored.
-    QString column(int item, int c) const;
+    QString column(int item, int c) const
+    {
+        return itemrecord::Split(list.st.Items.at(static_cast<size_t>(item))).value(c);
+    }
 
 private:
     UserControl1& list;
@@ -47,9 +53,7 @@ double TwipsPerPixelY();
 double TwipsPerPixelX();
 // R(v) written out again for the expectations: a half goes to the even neighbour.
 double HalfEven(double v);
-// A twips length on the screen, in pixels.
 int PixelsDown(double twips);
-
 // Height of "M" in twips in the list's measuring font, as the desktop reports it.
 double MeasuredTextHeight(const UserControl1& list);
 
@@ -57,9 +61,7 @@ double MeasuredTextHeight(const UserControl1& list);
 std::unique_ptr<UserControl1> LoadedList();
 // The game's log as the main window sets it up.
 std::unique_ptr<UserControl1> MovesListAsSetUp();
-
 // Appends items "item 1" .. "item n".
 void AppendItems(UserControl1& list, int n);
-
 // The code of the ListError a call ends in, or 0 when it ends normally.
 int ErrorCode(const std::function<void()>& call);
