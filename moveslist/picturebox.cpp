@@ -250,6 +250,17 @@ void PictureBox::paintEvent(QPaintEvent* event)
     painter.drawImage(event->rect(), canvas, event->rect());
 }
 
+// The surfaces have the control's font: a font its host gives it reaches them too.
+void PictureBox::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        drawFont = font();
+        metrics.reset();
+        laidOutTexts.clear();
+    }
+    QWidget::changeEvent(event);
+}
+
 void PictureBox::resizeEvent(QResizeEvent* event)
 {
     syncImage();

@@ -68,6 +68,19 @@ TEST_F(MovesListLayout, TheFirstLineMeasuresTheRowsFromTheFont)
     }
 }
 
+TEST_F(MovesListLayout, AFontFromTheHostIsTheOneRowsAreMeasuredWith)
+{
+    QFont larger(QStringLiteral("Serif"));
+    larger.setPointSizeF(14);
+    list->setFont(larger);
+    EXPECT_EQ(list->Fontname(), "Serif");
+    EXPECT_FLOAT_EQ(list->FontSize(), 14);
+    const RowMeasures expected = ExpectedMeasures(*list, 3750, 0);
+    AddOnTop(*list, "first line");
+    EXPECT_EQ(list->state().RowTwips, expected.rowTwips);
+    EXPECT_EQ(list->state().ItemFontName, "Serif");
+}
+
 TEST_F(MovesListLayout, EachLineOnTopRepaintsFromItemOneAndLeavesTheThumb)
 {
     for (int i = 1; i <= 3; ++i)
