@@ -1,5 +1,6 @@
 #include "controls/quillet.h"
 
+#include "controls/mouse_numbers.h"
 #include "controls/twips.h"
 
 #include <QImage>
@@ -11,30 +12,6 @@
 #include <exception>
 
 namespace {
-
-int16_t buttonNumber(Qt::MouseButtons buttons)
-{
-    int16_t number = 0;
-    if (buttons & Qt::LeftButton)
-        number |= 1;
-    if (buttons & Qt::RightButton)
-        number |= 2;
-    if (buttons & Qt::MiddleButton)
-        number |= 4;
-    return number;
-}
-
-int16_t shiftNumber(Qt::KeyboardModifiers modifiers)
-{
-    int16_t number = 0;
-    if (modifiers & Qt::ShiftModifier)
-        number |= 1;
-    if (modifiers & Qt::ControlModifier)
-        number |= 2;
-    if (modifiers & Qt::AltModifier)
-        number |= 4;
-    return number;
-}
 
 float twipsX(const QMouseEvent* event)
 {
@@ -271,8 +248,8 @@ void Quillet::mousePressEvent(QMouseEvent* event)
         m_pressedInside = true;
         update();
     }
-    const int16_t button = buttonNumber(event->button());
-    const int16_t shift = shiftNumber(event->modifiers());
+    const int16_t button = ButtonNumber(event->button());
+    const int16_t shift = ShiftNumber(event->modifiers());
     deliver([&] { emit MouseDown(button, shift, twipsX(event), twipsY(event)); });
 }
 
@@ -282,8 +259,8 @@ void Quillet::mouseReleaseEvent(QMouseEvent* event)
                            rect().contains(event->position().toPoint());
     if (event->button() == Qt::LeftButton)
         forgetPress();
-    const int16_t button = buttonNumber(event->button());
-    const int16_t shift = shiftNumber(event->modifiers());
+    const int16_t button = ButtonNumber(event->button());
+    const int16_t shift = ShiftNumber(event->modifiers());
     QPointer<Quillet> alive(this);
     deliver([&] { emit MouseUp(button, shift, twipsX(event), twipsY(event)); });
     // The handler of the release may have closed the face or turned it off; then the
@@ -302,8 +279,8 @@ void Quillet::mouseMoveEvent(QMouseEvent* event)
             update();
         }
     }
-    const int16_t button = buttonNumber(event->buttons());
-    const int16_t shift = shiftNumber(event->modifiers());
+    const int16_t button = ButtonNumber(event->buttons());
+    const int16_t shift = ShiftNumber(event->modifiers());
     deliver([&] { emit MouseMove(button, shift, twipsX(event), twipsY(event)); });
 }
 

@@ -41,12 +41,19 @@ void Game::Pots_MouseUp(int16_t Index, int16_t Button, int16_t Shift, float X, f
         ListMove(SideHuman, again);
         return;
     }
+    ReplyAndHandBack("YOUR MOVE NOW");
+}
+
+// The computer's whole turn, the board shown, then either the end of the game or the
+// move handed back to the human with the given caption.
+void Game::ReplyAndHandBack(const std::string& caption)
+{
     ComputerMove();
     UpdateBoard();
     if (!GameLive)
         EndGame();
     else
-        screen_.SetMessCaption("YOUR MOVE NOW");
+        screen_.SetMessCaption(caption);
 }
 
 void Game::HumanMove(int16_t& Result)

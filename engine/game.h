@@ -29,6 +29,7 @@ public:
     void ResetForLoad();
     void LogOpeningLines();
     void LayOutBoard(int16_t Count);
+    void ReplyAndHandBack(const std::string& caption);
 
     // The computer player (computer_move.cpp)
     void ComputerMove();

@@ -16,12 +16,7 @@ void Game::TakeComp_Click()
         EndGame();
         return;
     }
-    ComputerMove();
-    UpdateBoard();
-    if (!GameLive)
-        EndGame();
-    else
-        screen_.SetMessCaption("AGAIN YOUR MOVE NOW");
+    ReplyAndHandBack("AGAIN YOUR MOVE NOW");
 }
 
 // While the button is held the board shows where the advised move leads and the hand

@@ -1,5 +1,6 @@
 #include "window/form1.h"
 
+#include "controls/mouse_numbers.h"
 #include "controls/quillet.h"
 #include "controls/twips.h"
 #include "engine/number_text.h"
@@ -13,30 +14,6 @@ namespace {
 double Count(const QString& text)
 {
     return NumericRead(text.toStdString());
-}
-
-int16_t ButtonOf(Qt::MouseButtons buttons)
-{
-    int16_t b = 0;
-    if (buttons & Qt::LeftButton)
-        b |= 1;
-    if (buttons & Qt::RightButton)
-        b |= 2;
-    if (buttons & Qt::MiddleButton)
-        b |= 4;
-    return b;
-}
-
-int16_t ShiftOf(Qt::KeyboardModifiers modifiers)
-{
-    int16_t s = 0;
-    if (modifiers & Qt::ShiftModifier)
-        s |= 1;
-    if (modifiers & Qt::ControlModifier)
-        s |= 2;
-    if (modifiers & Qt::AltModifier)
-        s |= 4;
-    return s;
 }
 
 } // namespace
@@ -126,7 +103,7 @@ void Form1::Form_MouseMove(int16_t, int16_t, float, float)
 void Form1::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF at = event->position();
-    Form_MouseMove(ButtonOf(event->buttons()), ShiftOf(event->modifiers()),
+    Form_MouseMove(ButtonNumber(event->buttons()), ShiftNumber(event->modifiers()),
                    Twips::fromPixels(static_cast<float>(at.x())),
                    Twips::fromPixels(static_cast<float>(at.y())));
 }
