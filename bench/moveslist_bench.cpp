@@ -113,12 +113,3 @@ BENCHMARK(BM_QListWidgetInsertOnTop)->Apply(Sizes);
 BENCHMARK(BM_QListWidgetInsertOnTopLaidOut)->Apply(Sizes);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
