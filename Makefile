@@ -2,7 +2,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
-.PHONY: all deps configure build run test bench format clean
+.PHONY: all deps configure build run test bench package format clean
 
 all: build
 
@@ -24,6 +24,10 @@ test: build
 
 bench: build
 	@$(BUILD)/bench/tavok-bench
+
+# A Debian package of the game, in the build folder.
+package: build
+	@cd $(BUILD) && cpack
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -368,12 +368,32 @@ bool saveSheets(const std::vector<Picture>& all, const QString& path)
 
 } // namespace
 
+// The desktop's icons of the game: the miniature board at the theme's sizes.
+bool saveIcons(const QDir& folder)
+{
+    bool written = true;
+    for (int pixels : {32, 48, 64, 128}) {
+        QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(pixels / double(Grid), pixels / double(Grid));
+        drawBoard(painter);
+        painter.end();
+        written &= save(image, folder.filePath(QString("tavok-%1.png").arg(pixels)));
+    }
+    return written;
+}
+
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     const QStringList arguments = app.arguments();
+    if (arguments.size() == 3 && arguments[1] == "--icons")
+        return saveIcons(QDir(arguments[2])) ? 0 : 1;
     if (arguments.size() != 2 && !(arguments.size() == 4 && arguments[2] == "--sheet")) {
-        std::fprintf(stderr, "usage: draw_assets <assets folder> [--sheet <file.png>]\n");
+        std::fprintf(stderr, "usage: draw_assets <assets folder> [--sheet <file.png>]\n"
+                             "       draw_assets --icons <folder>\n");
         return 2;
     }
     const QDir folder(arguments[1]);

@@ -6,7 +6,8 @@ packages=(
   cmake ninja-build g++ make pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  fonts-dejavu-core fonts-liberation xvfb xauth
+  fonts-dejavu-core fonts-liberation fonts-liberation2 xvfb xauth
+  appstream desktop-file-utils dpkg-dev
 )
 
 missing=()
