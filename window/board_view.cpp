@@ -28,6 +28,7 @@ void Form1::DrawPot(int16_t& Pot, QString& Text)
     if (IsBank(Pot)) {
         pot->caption(Text);
         pot->Tag(Text);
+        DescribePot(Pot);
         return;
     }
     if (Pot < 7) {
@@ -45,6 +46,7 @@ void Form1::DrawPot(int16_t& Pot, QString& Text)
         Text.clear();
     pot->caption(Text);
     pot->Tag(Text);
+    DescribePot(Pot);
 }
 
 void Form1::DrawPotHot(int16_t& Pot, QString& Text)
@@ -54,6 +56,7 @@ void Form1::DrawPotHot(int16_t& Pot, QString& Text)
     Pots[Pot]->picture(Pots[HumanBank]->picture());
     Pots[Pot]->caption(Text);
     Pots[Pot]->Tag(Text);
+    DescribePot(Pot);
     game_.HoverPot = Pot;
 }
 

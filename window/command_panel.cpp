@@ -35,9 +35,11 @@ void Form1::Pausex_Click()
     if (game_.PauseAtMoves) {
         game_.PauseAtMoves = false;
         Pausex->caption(QStringLiteral("Do not pause"));
+        DescribeButton(Pausex);
     } else {
         game_.PauseAtMoves = true;
         Pausex->caption(QStringLiteral("Pause at moves"));
+        DescribeButton(Pausex);
     }
 }
 

@@ -300,6 +300,7 @@ void Form1::CreateCommandPanel()
         MakePlainButton(q, caption);
         if (!tip.isEmpty())
             q->setToolTip(tip);
+        DescribeButton(q);
         return q;
     };
     Quitx = button(Frame2, "Quitx", Layout::Quitx, QStringLiteral("Exit"), {});
@@ -421,6 +422,7 @@ void Form1::SetPotEnabled(int16_t Slot, bool Enabled)
 void Form1::SetMessCaption(const std::string& Caption)
 {
     Mess->caption(FromStd(Caption));
+    Mess->setAccessibleName(Mess->caption());
 }
 void Form1::SetMessEnabled(bool Enabled)
 {
@@ -472,8 +474,10 @@ float Form1::PotNameTop(int16_t) const
 
 void Form1::SetTotalBCaption(int16_t Index, const std::string& Caption)
 {
-    if (Index == 1 || Index == 2)
+    if (Index == 1 || Index == 2) {
         TotalB[Index]->setText(FromStd(Caption));
+        DescribeTotal(Index);
+    }
 }
 
 void Form1::MovesList_Additem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,

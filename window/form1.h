@@ -84,6 +84,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void DescribePot(int16_t Slot);
+    void DescribeTotal(int16_t Index);
+    void DescribeButton(Quillet* button);
+    void AnnounceKeyboardPot();
     void CreateControls();
     void CreateBoard();
     void CreateCommandPanel();

@@ -20,6 +20,9 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
     if (target != (focus && focus->window() == this ? focus : this))
         return false;
     const auto* key = static_cast<QKeyEvent*>(event);
+    const int16_t before = game_.KeyboardPot;
     game_.Form_KeyDown(GameKeyCode(key->key()), 0);
+    if (game_.KeyboardPot != before)
+        AnnounceKeyboardPot();
     return false;
 }

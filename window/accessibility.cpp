@@ -1,0 +1,61 @@
+#include "window/form1.h"
+
+#include "controls/quillet.h"
+#include "engine/number_text.h"
+
+#include <QAccessible>
+#include <QLabel>
+
+// What a screen reader says of the board. Nothing on the screen changes for it.
+
+void Form1::DescribePot(int16_t Slot)
+{
+    if (!IsSlot(Slot))
+        return;
+    Quillet* pot = Pots[Slot];
+    const int count = static_cast<int>(NumericRead(pot->Tag().toStdString()));
+    const QString beads =
+        count == 1 ? QStringLiteral("1 bead") : QStringLiteral("%1 beads").arg(count);
+    QString name;
+    if (Slot == HumanBank)
+        name = QStringLiteral("Your bank, %1").arg(beads);
+    else if (Slot == ComputerBank)
+        name = QStringLiteral("Computer's bank, %1").arg(beads);
+    else
+        name = QStringLiteral("Pot %1, %2, %3")
+                   .arg(QChar(Slot < 6 ? 'A' + Slot : 'A' + (12 - Slot)))
+                   .arg(Slot < 6 ? QStringLiteral("yours") : QStringLiteral("computer's"))
+                   .arg(beads);
+    if (pot->accessibleName() == name)
+        return;
+    pot->setAccessibleName(name);
+    QAccessibleEvent changed(pot, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+}
+
+void Form1::DescribeTotal(int16_t Index)
+{
+    const QString whose =
+        Index == 1 ? QStringLiteral("Computer's total") : QStringLiteral("Your total");
+    TotalB[Index]->setAccessibleName(QStringLiteral("%1, %2").arg(whose, TotalB[Index]->text()));
+}
+
+void Form1::DescribeButton(Quillet* button)
+{
+    button->setAccessibleName(button->caption());
+    button->setAccessibleDescription(button->toolTip());
+}
+
+// The keyboard's selection shows nowhere on the screen. A screen reader hears it as the
+// focus moving to that pot, and finds it in the pot's description.
+void Form1::AnnounceKeyboardPot()
+{
+    const int16_t selected = game_.KeyboardPot;
+    for (int16_t s = 0; s <= 5; ++s)
+        Pots[s]->setAccessibleDescription(s == selected ? QStringLiteral("Selected: Enter plays it")
+                                                        : QString());
+    if (!IsHumanPot(selected))
+        return;
+    QAccessibleEvent focus(Pots[selected], QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
+}
