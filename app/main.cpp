@@ -1,3 +1,4 @@
+#include "controls/marlet.h"
 #include "window/form1.h"
 
 #include <QApplication>
@@ -30,6 +31,8 @@ int main(int argc, char* argv[])
         return NoDisplay;
     }
     QApplication app(argc, argv);
+    // The score board's record lasts from one run to the next.
+    Marlets::Marlet::KeepRecords(true);
     Form1 form;
     form.show();
     return app.exec();

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSettings>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -88,9 +89,41 @@ void Marlet::showRow(const Row& row, bool shown)
     row.value->setVisible(shown);
 }
 
+bool Marlet::s_keepRecords = false;
+
+void Marlet::KeepRecords(bool keep)
+{
+    s_keepRecords = keep;
+}
+
 void Marlet::ScoreTitle(const QString& New_ScoreTitle)
 {
     m_title->setText(New_ScoreTitle);
+    loadRecord();
+}
+
+// Each title keeps its own record, under the game's own name.
+void Marlet::loadRecord()
+{
+    if (!s_keepRecords)
+        return;
+    QSettings settings(QStringLiteral("Tavok"), QStringLiteral("Tavok"));
+    settings.beginGroup(QStringLiteral("Score/") + m_title->text());
+    m_wins = qMax(0, settings.value(QStringLiteral("won"), 0).toInt());
+    m_losses = qMax(0, settings.value(QStringLiteral("lost"), 0).toInt());
+    m_draws = qMax(0, settings.value(QStringLiteral("drawn"), 0).toInt());
+    refresh();
+}
+
+void Marlet::saveRecord() const
+{
+    if (!s_keepRecords)
+        return;
+    QSettings settings(QStringLiteral("Tavok"), QStringLiteral("Tavok"));
+    settings.beginGroup(QStringLiteral("Score/") + m_title->text());
+    settings.setValue(QStringLiteral("won"), m_wins);
+    settings.setValue(QStringLiteral("lost"), m_losses);
+    settings.setValue(QStringLiteral("drawn"), m_draws);
 }
 
 void Marlet::ScoreOptionA(bool New_ScoreOptionA)
@@ -108,6 +141,7 @@ void Marlet::ScoreOptionB(bool New_ScoreOptionB)
 void Marlet::ScoreWin(bool New_ScoreWin)
 {
     ++(New_ScoreWin ? m_wins : m_losses);
+    saveRecord();
     // A game can end under an open board; then the new count shows at once.
     if (isVisible())
         refresh();
@@ -118,6 +152,7 @@ void Marlet::ScoreDraw(bool New_ScoreDraw)
     if (!New_ScoreDraw)
         return;
     ++m_draws;
+    saveRecord();
     if (isVisible())
         refresh();
 }

@@ -30,6 +30,10 @@ public:
     // 0 brings the board in front of its neighbours, 1 sends it behind them.
     void ZOrder(int position);
 
+    // The record of each title outlives the program once this is switched on; the game
+    // does, tests and tools do not, so that they never touch the player's own record.
+    static void KeepRecords(bool keep);
+
     int wins() const { return m_wins; }
     int losses() const { return m_losses; }
     int draws() const { return m_draws; }
@@ -43,6 +47,8 @@ private:
     static Row addRow(QGridLayout* grid, const QString& name, const char* key);
     static void showRow(const Row& row, bool shown);
     void refresh();
+    void loadRecord();
+    void saveRecord() const;
     QString shareWon() const;
 
     QLabel* m_title = nullptr;
@@ -56,6 +62,7 @@ private:
     int m_draws = 0;
     bool m_showShare = false;
     bool m_showDrawn = false;
+    static bool s_keepRecords;
 };
 
 } // namespace Marlets

@@ -109,3 +109,39 @@ TEST_F(ScoreBoard, ItsOwnCloseHidesItAndScorexBringsItBackInFront)
     EXPECT_NE(window.childAt(middle), movesList);
     EXPECT_EQ(shown("won"), "1");
 }
+
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+// A board that keeps its record finds it again in the next run, under its title only.
+TEST(MarletRecord, OutlivesTheBoardWhenKept)
+{
+    QTemporaryDir home;
+    ASSERT_TRUE(home.isValid());
+    const QByteArray oldConfig = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    Marlets::Marlet::KeepRecords(true);
+    {
+        Marlets::Marlet first;
+        first.ScoreTitle(QStringLiteral("Tavok"));
+        first.ScoreWin(true);
+        first.ScoreWin(false);
+        first.ScoreDraw(true);
+    }
+    Marlets::Marlet again;
+    again.ScoreTitle(QStringLiteral("Tavok"));
+    EXPECT_EQ(again.wins(), 1);
+    EXPECT_EQ(again.losses(), 1);
+    EXPECT_EQ(again.draws(), 1);
+    Marlets::Marlet other;
+    other.ScoreTitle(QStringLiteral("Another game"));
+    EXPECT_EQ(other.wins() + other.losses() + other.draws(), 0);
+
+    Marlets::Marlet::KeepRecords(false);
+    Marlets::Marlet unkept;
+    unkept.ScoreTitle(QStringLiteral("Tavok"));
+    EXPECT_EQ(unkept.wins(), 0) << "tests and tools start with an empty record";
+    qputenv("XDG_CONFIG_HOME", oldConfig);
+}
