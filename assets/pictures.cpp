@@ -2,6 +2,9 @@
 
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QSet>
+
+#include <cstdio>
 
 namespace Pictures {
 
@@ -11,6 +14,17 @@ QString twiceAsLarge(const QString& path)
 {
     const QFileInfo file(path);
     return file.path() + "/" + file.completeBaseName() + "@2x." + file.suffix();
+}
+
+// A picture that will not load is said once on standard error; the window comes up
+// with the rest all the same.
+void reportMissing(const QString& path)
+{
+    static QSet<QString> reported;
+    if (reported.contains(path))
+        return;
+    reported.insert(path);
+    std::fprintf(stderr, "tavok: the picture %s is missing or damaged\n", qPrintable(path));
 }
 
 } // namespace
@@ -25,6 +39,8 @@ QPixmap load(const QString& path, qreal devicePixelRatio)
         }
     }
     QPixmap picture(path);
+    if (picture.isNull())
+        reportMissing(path);
     picture.setDevicePixelRatio(1.0);
     return picture;
 }

@@ -133,3 +133,15 @@ TEST(Pictures, RaisedDiscsAreLitFromTheUpperLeftAndSunkenOnesTheOtherWay)
         }
     }
 }
+
+TEST(MissingPicture, IsSaidOnceOnStandardError)
+{
+    const QString path = QStringLiteral(":/assets/lost_on_the_way.png");
+    ::testing::internal::CaptureStderr();
+    EXPECT_TRUE(Pictures::load(path, 1.0).isNull());
+    EXPECT_TRUE(Pictures::load(path, 2.0).isNull());
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    const auto first = said.find("lost_on_the_way.png");
+    ASSERT_NE(first, std::string::npos) << said;
+    EXPECT_EQ(said.find("lost_on_the_way.png", first + 1), std::string::npos) << said;
+}
