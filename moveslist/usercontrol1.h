@@ -75,6 +75,11 @@ public:
     // Below 1 is ListError 380: the rows are cut to whole rows by dividing by it.
     void RowHeight(const AnyValue& New_RowHeight);
 
+    // Whole records compared as binary text, the text first; then the rows in view
+    // are repainted. 32,768 items are ListError 6: the bounds are 16 bits.
+    void SortAscending();
+    void SortDescending();
+
     AnyValue GetItemData(const AnyValue& i) const;
     // it -1 names the item added last.
     void SetItemData(AnyValue it, const AnyValue& valuex);
@@ -138,6 +143,10 @@ private:
     void LastAddedIndex(const QString& index);
     QString ChosenIndex() const;
     void ChosenIndex(const QString& index);
+
+    // Sorting.
+    void QuickSortUp(int16_t first, int16_t last);
+    void QuickSortDown(int16_t first, int16_t last);
 
     // Painting.
     void DrawRows(int16_t first, int16_t last);

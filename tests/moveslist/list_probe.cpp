@@ -63,6 +63,20 @@ void AppendItems(UserControl1& list, int n)
     }
 }
 
+void AppendTexts(UserControl1& list, const QStringList& texts)
+{
+    for (QString s : texts)
+        list.Additem(s);
+}
+
+QStringList Texts(const UserControl1& list)
+{
+    QStringList texts;
+    for (int it = 0; it < list.ListCount().toNumber(); ++it)
+        texts << list.List(it).toText();
+    return texts;
+}
+
 int ErrorCode(const std::function<void()>& call)
 {
     try {

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 
 // Reaches the list's children and inner steps, which a host never sees.
 class ListProbe {
@@ -38,6 +39,8 @@ public:
 
     // The upper bound of Items: -1 while it has no storage.
     int itemsUpperBound() const { return static_cast<int>(list.st.Items.size()) - 1; }
+    // The whole record of item i (from 1), as stored.
+    QString record(int item) const { return list.st.Items.at(static_cast<size_t>(item)); }
     // Column c of item i (from 1), as stored.
     QString column(int item, int c) const
     {
@@ -47,6 +50,17 @@ public:
 private:
     UserControl1& list;
 };
+
+// Failures print the value, not its bytes.
+inline void PrintTo(const AnyValue& value, std::ostream* out)
+{
+    if (value.isEmpty())
+        *out << "(empty)";
+    else if (value.isNumber())
+        *out << value.toNumber();
+    else
+        *out << '"' << value.toText().toStdString() << '"';
+}
 
 // The screen's twips per pixel, down and across.
 double TwipsPerPixelY();
@@ -63,5 +77,9 @@ std::unique_ptr<UserControl1> LoadedList();
 std::unique_ptr<UserControl1> MovesListAsSetUp();
 // Appends items "item 1" .. "item n".
 void AppendItems(UserControl1& list, int n);
+// Appends one item per text, in order.
+void AppendTexts(UserControl1& list, const QStringList& texts);
+// The texts of all items, first to last.
+QStringList Texts(const UserControl1& list);
 // The code of the ListError a call ends in, or 0 when it ends normally.
 int ErrorCode(const std::function<void()>& call);

@@ -9,14 +9,6 @@ namespace {
 
 using namespace itemrecord;
 
-QStringList Texts(const UserControl1& list)
-{
-    QStringList texts;
-    for (int it = 0; it < list.ListCount().toNumber(); ++it)
-        texts << list.List(it).toText();
-    return texts;
-}
-
 void Add(UserControl1& list, const char* text, int16_t itemx)
 {
     QString s = QString::fromLatin1(text);
