@@ -197,3 +197,27 @@ TEST(EndingInAPause, TheProgramEndsAtOnce)
             << how << ": " << child.readAllStandardOutput().toStdString();
     }
 }
+
+#include "moveslist/usercontrol1.h"
+
+// A log past the list's 32,768 items: the list refuses every further line, and the
+// game goes on without losing a move.
+TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
+{
+    auto* log = Child<UserControl1>(QStringLiteral("MovesList"));
+    for (int i = log->state().ItemCount; i < 32766; ++i) {
+        QString line = QStringLiteral("filler");
+        log->Additem(line);
+    }
+    for (int turn = 0; turn < 3 && !form.game().GameFinished; ++turn) {
+        int pot = 0;
+        while (pot < 6 && form.game().Beads[pot] == 0)
+            ++pot;
+        ASSERT_LT(pot, 6);
+        const int16_t before = form.game().Beads[pot];
+        QTest::mouseClick(Pot(pot), Qt::LeftButton);
+        EXPECT_EQ(form.game().Beads[pot] == before, false) << "the move was played";
+        EXPECT_EQ(form.game().WaitingForClick, 0);
+    }
+    EXPECT_GE(log->state().ItemCount, 32768);
+}
