@@ -12,6 +12,8 @@
 //   11     Division by zero: rows measured or drawn with a row height or pixel size of 0.
 //   13     Type mismatch: a text where a number is needed.
 //   91     Object variable not set: DrawStyle 1 with no image list.
+//   93     Invalid pattern string: a Find pattern with a [ never closed or a range
+//          whose bounds stand in reverse, [f-a]. The list is left as it was.
 //   321    Invalid file format: a damaged "-LB" property block.
 //   380    Invalid property value: a RowHeight below 1.
 //   382    'Set' not supported at run time: the ListCount setter.
@@ -34,6 +36,7 @@ constexpr int SubscriptOutOfRange = 9;
 constexpr int DivisionByZero = 11;
 constexpr int TypeMismatch = 13;
 constexpr int ObjectNotSet = 91;
+constexpr int InvalidPattern = 93;
 constexpr int InvalidFileFormat = 321;
 constexpr int InvalidPropertyValue = 380;
 constexpr int NotAtRunTime = 382;

@@ -80,6 +80,15 @@ public:
     void SortAscending();
     void SortDescending();
 
+    // The number of the first item from `it` + 1 on (sdir 1: the last, counting down
+    // from the last item) whose text matches the pattern ftext (see likepattern.h);
+    // 0 when none does, and the empty value when `it` + 1 names no item. Case counts
+    // only with casen 1. A bad pattern is ListError 93.
+    AnyValue Find(int16_t sdir, int16_t it, const QString& ftext, int16_t casen = 0);
+    // Puts item i (from 1) on the first canvas row, marked and chosen; a closed
+    // drop-down opens. An item outside the list is ignored.
+    void ShowItem(const AnyValue& i);
+
     AnyValue GetItemData(const AnyValue& i) const;
     // it -1 names the item added last.
     void SetItemData(AnyValue it, const AnyValue& valuex);
@@ -168,6 +177,12 @@ private:
     void FitRows();
     void ModeCommonSteps();
     void ModeListBranch();
+    void ModeDropDownBranch();
+
+    // Drop-down.
+    void CloseDropDown();
+    void OpenDropDown();
+    void command1_MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void setScrollValue(int value);
     double ScreenTwipsX() const;
     double ScreenTwipsY() const;

@@ -122,6 +122,8 @@ void UserControl1::Mode(int16_t New_Mode)
     ModeCommonSteps();
     if (st.ComboMode == 0)
         ModeListBranch();
+    else if (st.ComboMode == 1)
+        ModeDropDownBranch();
 }
 
 void UserControl1::ModeCommonSteps()

@@ -55,6 +55,25 @@ std::unique_ptr<UserControl1> MovesListAsSetUp()
     return list;
 }
 
+std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight)
+{
+    auto list = LoadedList();
+    list->resize(300, 200);
+    list->BackColor(0x00FFFFFF);
+    list->DropDownHeight(dropDownHeight);
+    list->Mode(0);
+    AppendItems(*list, items);
+    ListProbe(*list).DrawRows(1, list->state().RowsInView);
+    return list;
+}
+
+bool RowMarked(const UserControl1& list, int row)
+{
+    const ListState& st = list.state();
+    const int y = PixelsDown((row + 0.5) * st.RowTwips);
+    return (list.canvas().pixel(list.canvas().width() - 3, y) & 0xFFFFFF) != 0xFFFFFF;
+}
+
 void AppendItems(UserControl1& list, int n)
 {
     for (int i = 1; i <= n; ++i) {

@@ -75,6 +75,12 @@ double MeasuredTextHeight(const UserControl1& list);
 std::unique_ptr<UserControl1> LoadedList();
 // The game's log as the main window sets it up.
 std::unique_ptr<UserControl1> MovesListAsSetUp();
+// A plain list 300 pixels wide on a white canvas, shown from item 1, as a host would
+// set one up; not on the screen.
+std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight = 2000);
+// Whether the strip of canvas row `row` is inverted: read at the canvas' right end,
+// where no text reaches.
+bool RowMarked(const UserControl1& list, int row);
 // Appends items "item 1" .. "item n".
 void AppendItems(UserControl1& list, int n);
 // Appends one item per text, in order.

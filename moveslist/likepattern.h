@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <vector>
+
+// A pattern of the list's Find, matched against the whole of a subject:
+//   ?  one character        *  any run, also none     #  one digit 0 to 9
+//   [abc] [a-f] one character of the list   [!abc] one character not in it
+// Inside brackets ? * # and [ stand for themselves, a hyphen first or last too, and
+// ! negates only right behind the opening bracket; ] outside brackets is itself, and
+// [] matches nothing at all, taking no character. Characters compare by their codes.
+//
+// Matching takes time in proportion to subject length times pattern length at worst:
+// only the last * is ever gone back to, whatever the number of them.
+class LikePattern {
+public:
+    // An opening bracket without its closing one, or a range whose bounds stand in
+    // reverse, is ListError 93.
+    explicit LikePattern(const QString& pattern);
+
+    // With upperCase, every character of the subject is taken in upper case, as the
+    // pattern is expected to be already.
+    bool matches(QStringView subject, bool upperCase = false) const;
+
+    // Upper case one code unit at a time, so that subject and pattern keep their length.
+    static QString UpperCase(const QString& text);
+    static char16_t UpperUnit(char16_t unit);
+
+private:
+    enum class Kind { Char, Any, Digit, Star, List };
+    struct Range {
+        char16_t low;
+        char16_t high;
+    };
+    struct Token {
+        explicit Token(Kind kind, char16_t unit = 0) : kind(kind), unit(unit) {}
+        Kind kind;
+        char16_t unit;
+        bool negated = false;
+        std::vector<Range> ranges;
+    };
+
+    qsizetype readList(const QString& pattern, qsizetype open);
+    static bool accepts(const Token& token, char16_t unit);
+
+    std::vector<Token> tokens;
+};

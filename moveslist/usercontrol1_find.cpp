@@ -1,0 +1,73 @@
+#include "moveslist/usercontrol1.h"
+
+#include "moveslist/itemrecord.h"
+#include "moveslist/likepattern.h"
+#include "moveslist/listnumbers.h"
+#include "moveslist/picturebox.h"
+
+#include <QLineEdit>
+
+using moveslist::NumberText;
+using moveslist::R;
+using moveslist::To16;
+
+namespace col = itemrecord;
+
+namespace {
+
+// Column 0 of a record, read in place: a search looks at nothing else.
+QStringView TextColumn(const QString& record)
+{
+    const qsizetype tab = record.indexOf(QLatin1Char('\t'));
+    return tab < 0 ? QStringView(record) : QStringView(record).left(tab);
+}
+
+} // namespace
+
+// The backward run covers the same items as the forward one, from the last item down
+// to the start item; neither wraps round. A pattern is only read once the search runs.
+AnyValue UserControl1::Find(int16_t sdir, int16_t it, const QString& ftext, int16_t casen)
+{
+    const int16_t start = To16(it + 1.0);
+    if (start > st.ItemCount || start < 1 || st.ItemCount == 0)
+        return {};
+    const bool caseCounts = casen == 1;
+    const LikePattern pattern(caseCounts ? ftext : LikePattern::UpperCase(ftext));
+    const int32_t step = sdir == 1 ? -1 : 1;
+    const int32_t from = sdir == 1 ? st.ItemCount : start;
+    const int32_t to = sdir == 1 ? start : st.ItemCount;
+    for (int32_t n = from;; n += step) {
+        const QString& record = st.Items[static_cast<size_t>(n)];
+        if (pattern.matches(TextColumn(record), !caseCounts)) {
+            st.ItemColumns = col::Split(record);
+            return n;
+        }
+        if (n == to)
+            break;
+    }
+    // The scratch columns hold the record looked at last, as a split of each would.
+    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(to)]);
+    return 0;
+}
+
+// The item ends on the first canvas row, with blank canvas below it if need be: the
+// position is not held back to keep the view full.
+void UserControl1::ShowItem(const AnyValue& i)
+{
+    const double n = i.toNumberStrict();
+    if (n < 1 || n > st.ItemCount)
+        return;
+    const auto item = static_cast<int32_t>(R(n));
+    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
+    Text1->setText(col::Column(st.ItemColumns, col::Text));
+    ChosenIndex(NumberText(item - 1));
+    if (st.SelectedRow != -1)
+        InvertRowStrip(To16(st.SelectedRow));
+    if (st.ComboMode == 1 && Picture1->isHidden()) {
+        OpenDropDown();
+        Picture1->setFocus();
+    }
+    setScrollValue(item - 1);
+    InvertRowStrip(0);
+    st.SelectedRow = 0;
+}
