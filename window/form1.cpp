@@ -404,6 +404,16 @@ void Form1::paintEvent(QPaintEvent*)
     stroke(Layout::Line3, Qt::white);
 }
 
+// Totals grow over many games; a long one steps its font down rather than lose digits.
+void Form1::FitTotal(QLabel* total)
+{
+    QFont font = ArialFont(14.25, true);
+    const int room = total->contentsRect().width() - 2;
+    while (font.pointSizeF() > 6 && QFontMetrics(font).horizontalAdvance(total->text()) > room)
+        font.setPointSizeF(font.pointSizeF() - 0.75);
+    total->setFont(font);
+}
+
 // GameScreen: what the game needs of the window.
 
 std::string Form1::PotTag(int16_t Index) const
@@ -476,6 +486,7 @@ void Form1::SetTotalBCaption(int16_t Index, const std::string& Caption)
 {
     if (Index == 1 || Index == 2) {
         TotalB[Index]->setText(FromStd(Caption));
+        FitTotal(TotalB[Index]);
         DescribeTotal(Index);
     }
 }

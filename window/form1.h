@@ -84,6 +84,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void FitTotal(QLabel* total);
     void DescribePot(int16_t Slot);
     void DescribeTotal(int16_t Index);
     void DescribeButton(Quillet* button);

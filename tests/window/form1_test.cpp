@@ -221,3 +221,13 @@ TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
     }
     EXPECT_GE(log->state().ItemCount, 32768);
 }
+
+TEST_F(MainWindow, ALongTotalStaysWholeInItsBox)
+{
+    auto* total = Child<QLabel>(QStringLiteral("TotalB2"));
+    form.SetTotalBCaption(2, "32767");
+    EXPECT_LE(QFontMetrics(total->font()).horizontalAdvance(total->text()),
+              total->contentsRect().width());
+    form.SetTotalBCaption(2, "7");
+    EXPECT_GT(total->font().pointSizeF(), 14.0) << "a short total keeps the full size";
+}
