@@ -15,7 +15,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QSlider>
-#include <QStyle>
 
 namespace {
 
@@ -38,11 +37,6 @@ QFont SansSerifFont(bool bold)
     font.setPointSizeF(8.25);
     font.setBold(bold);
     return font;
-}
-
-QColor Colour(int r, int g, int b)
-{
-    return QColor(r, g, b);
 }
 
 int Px(int twips)
@@ -232,16 +226,16 @@ void Form1::CreateBoard()
     Label3 = MakeLabel(this, "Label3", QStringLiteral("COMPUTER"));
     Label3->setGeometry(PxRect(Layout::Label3));
     Label3->setFont(ArialFont(8.25, true));
-    SetTextColors(Label3, Colour(192, 0, 0), {});
+    SetTextColors(Label3, QColor(192, 0, 0), {});
     Label3->setToolTip(QStringLiteral("Computer moves beades from RED pots, right to left"));
 
     Label1 = MakeLabel(this, "Label1", QStringLiteral("HUMAN"));
     Label1->setGeometry(PxRect(Layout::Label1));
     Label1->setFont(ArialFont(8.25, true));
-    SetTextColors(Label1, Colour(0, 192, 0), {});
+    SetTextColors(Label1, QColor(0, 192, 0), {});
     Label1->setToolTip(QStringLiteral("Human moves beades from GREEN pots, left to right"));
 
-    const QColor totalBack[3] = {{}, Colour(255, 0, 0), Colour(0, 192, 0)};
+    const QColor totalBack[3] = {{}, QColor(255, 0, 0), QColor(0, 192, 0)};
     const QString totalTip[3] = {{},
                                  QStringLiteral("Total Beads accumulated by the Computer"),
                                  QStringLiteral("Total Beads accumulated by the Human player")};
