@@ -50,6 +50,7 @@ UserControl1::UserControl1(QWidget* parent)
     setFont(surfaceFont);
     setAutoFillBackground(true);
     createChildren();
+    wireEvents();
     applySurfaceBackColor(surfaceBackColor);
     applySurfaceBorder(surfaceBorderStyle);
     UserControl_Initialize();

@@ -11,11 +11,13 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 class PictureBox;
 class QLabel;
 class QLineEdit;
+class QMouseEvent;
 class QScrollBar;
 
 // The owner-drawn list that holds the game's log (MovesList): text rows, each with
@@ -89,6 +91,15 @@ public:
     // drop-down opens. An item outside the list is ignored.
     void ShowItem(const AnyValue& i);
 
+    // One column of item `it` (from 0) replaced in place; an `it` outside the list is
+    // ignored. An itd or ipic with no numeric reading is ListError 13. An item on the
+    // canvas repaints the rows in view.
+    void UpdateIcon(const AnyValue& it, const AnyValue& ipic);
+    void UpdateText(const AnyValue& it, const QString& s);
+    void UpdateFont(const AnyValue& it, const QString& font);
+    void UpdateForeColor(const AnyValue& it, int32_t fc);
+    void UpdateItemData(const AnyValue& it, const AnyValue& itd);
+
     AnyValue GetItemData(const AnyValue& i) const;
     // it -1 names the item added last.
     void SetItemData(AnyValue it, const AnyValue& valuex);
@@ -136,10 +147,48 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    struct MouseArguments {
+        int16_t Button;
+        int16_t Shift;
+        float X;
+        float Y;
+    };
+
     void UserControl_Initialize();
     void createChildren();
+    void wireEvents();
+    bool Picture1Event(QEvent* event);
+    bool command1Event(QEvent* event);
+    MouseArguments mouseArguments(const QMouseEvent& event, bool move) const;
+
+    // Mouse.
+    void Picture1_MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void Picture1_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void command1_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void UserControl_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
+    void Picture1_LostFocus();
+    double RowUnder(float Y) const;
+    void HoverTip(float Y);
+    void raiseMouseMove(int16_t Button, int16_t Shift, float X, float Y);
+    void raiseMouseUp(int16_t Button, int16_t Shift, float X, float Y);
+
+    // Keys.
+    void Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift);
+    void Picture1_KeyPress(int16_t& KeyAscii);
+    void Picture1_KeyUp(int16_t& KeyCode, int16_t& Shift);
+    void Text1_KeyDown(int16_t& KeyCode, int16_t& Shift);
+    void CommitTopItem(int16_t KeyCode, int16_t Shift);
+    void DropHighlight();
+    void KeyTail(int step, int16_t KeyCode, int16_t Shift);
+    void raiseKeyDown(int16_t KeyCode, int16_t Shift);
+    void raiseKeyUp(int16_t KeyCode, int16_t Shift);
+
+    // In-place updates.
+    void UpdateColumn(const AnyValue& it, int column, const std::function<QString()>& newColumn);
 
     // Store.
     void AdditemInsert(QString& s, int16_t itemx, int16_t ipic, int32_t ItemColor, bool topInsert);

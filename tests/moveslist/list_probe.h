@@ -17,6 +17,12 @@ class ListProbe {
 public:
     explicit ListProbe(UserControl1& list) : list(list) {}
 
+    // The real children, for events.
+    QWidget* canvasWidget() const { return list.Picture1; }
+    QLineEdit* textBox() const { return list.Text1; }
+    QScrollBar* scrollBar() const { return list.VScroll1; }
+    QLabel* button() const { return list.command1; }
+
     bool canvasHidden() const { return list.Picture1->isHidden(); }
     bool scrollBarHidden() const { return list.VScroll1->isHidden(); }
     int canvasHeight() const { return list.Picture1->height(); }
@@ -46,6 +52,12 @@ public:
     {
         return itemrecord::Split(list.st.Items.at(static_cast<size_t>(item))).value(c);
     }
+    void column(int item, int c, const QString& text)
+    {
+        QStringList columns = itemrecord::Split(list.st.Items.at(static_cast<size_t>(item)));
+        columns[c] = text;
+        list.st.Items[static_cast<size_t>(item)] = itemrecord::Join(columns);
+    }
 
 private:
     UserControl1& list;
@@ -60,6 +72,11 @@ inline void PrintTo(const AnyValue& value, std::ostream* out)
         *out << value.toNumber();
     else
         *out << '"' << value.toText().toStdString() << '"';
+}
+
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
 }
 
 // The screen's twips per pixel, down and across.

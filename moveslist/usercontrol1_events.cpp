@@ -1,0 +1,147 @@
+#include "moveslist/usercontrol1.h"
+
+#include "moveslist/inputnumbers.h"
+#include "moveslist/picturebox.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+using namespace inputnumbers;
+
+namespace {
+
+// A handler that fails ends there: the failure goes no further than the event.
+template <typename Handler> void Guarded(Handler&& handler)
+{
+    try {
+        handler();
+    } catch (const std::exception&) {
+    }
+}
+
+bool IsTab(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+}
+
+} // namespace
+
+// The children's events reach the handlers here. Moves over the canvas, the text box
+// and the scroll bar go no further: only the button and the bare surface pass theirs
+// on to the host.
+void UserControl1::wireEvents()
+{
+    setMouseTracking(true);
+    Picture1->setMouseTracking(true);
+    command1->setMouseTracking(true);
+    for (QWidget* child : {static_cast<QWidget*>(Picture1), static_cast<QWidget*>(Text1),
+                           static_cast<QWidget*>(VScroll1), static_cast<QWidget*>(command1)})
+        child->setAttribute(Qt::WA_NoMousePropagation);
+    // Working the bar of an open drop-down leaves the focus, and so the list, where
+    // they are.
+    VScroll1->setFocusPolicy(Qt::NoFocus);
+    Picture1->installEventFilter(this);
+    command1->installEventFilter(this);
+    Text1->installEventFilter(this);
+}
+
+bool UserControl1::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == Picture1)
+        return Picture1Event(event);
+    if (watched == command1)
+        return command1Event(event);
+    if (watched == Text1 && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t Shift = ShiftNumber(key->modifiers());
+        Guarded([&] { Text1_KeyDown(KeyCode, Shift); });
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool UserControl1::Picture1Event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonRelease: {
+        MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), false);
+        Guarded([&] { Picture1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
+        return true;
+    }
+    case QEvent::MouseMove: {
+        MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), true);
+        Guarded([&] { Picture1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+        return true;
+    }
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        // Tab moves the focus on, as it does everywhere else.
+        if (IsTab(*key))
+            return false;
+        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t Shift = ShiftNumber(key->modifiers());
+        Guarded([&] { Picture1_KeyDown(KeyCode, Shift); });
+        if (std::optional<int16_t> ascii = KeyAscii(*key))
+            Guarded([&] { Picture1_KeyPress(*ascii); });
+        return true;
+    }
+    case QEvent::KeyRelease: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (IsTab(*key))
+            return false;
+        // A held key goes down again and again, and comes up once.
+        if (key->isAutoRepeat())
+            return true;
+        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t Shift = ShiftNumber(key->modifiers());
+        Guarded([&] { Picture1_KeyUp(KeyCode, Shift); });
+        return true;
+    }
+    case QEvent::FocusOut:
+        Guarded([&] { Picture1_LostFocus(); });
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool UserControl1::command1Event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonRelease: {
+        MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), false);
+        Guarded([&] { command1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
+        return true;
+    }
+    case QEvent::MouseMove: {
+        MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), true);
+        Guarded([&] { command1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+        return true;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void UserControl1::mouseMoveEvent(QMouseEvent* event)
+{
+    MouseArguments a = mouseArguments(*event, true);
+    // The surface's own coordinates start inside its border.
+    a.X = float((event->position().x() - borderPixels()) * ScreenTwipsX());
+    a.Y = float((event->position().y() - borderPixels()) * ScreenTwipsY());
+    Guarded([&] { UserControl_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+}
+
+// X and Y in twips, in the coordinates of the widget that got the event. A move gives
+// every button held, a release the one let go.
+UserControl1::MouseArguments UserControl1::mouseArguments(const QMouseEvent& event, bool move) const
+{
+    return {move ? ButtonsNumber(event.buttons()) : ButtonNumber(event.button()),
+            ShiftNumber(event.modifiers()), float(event.position().x() * ScreenTwipsX()),
+            float(event.position().y() * ScreenTwipsY())};
+}

@@ -1,0 +1,118 @@
+#include "moveslist/usercontrol1.h"
+
+#include "moveslist/inputnumbers.h"
+#include "moveslist/itemrecord.h"
+#include "moveslist/listnumbers.h"
+#include "moveslist/picturebox.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+
+using moveslist::NumberText;
+using moveslist::To16;
+
+namespace col = itemrecord;
+namespace key = inputnumbers::key;
+
+// The mark stays on the first canvas row and the list scrolls under it: the item the
+// keys act on is always the one at TopRow. No key pages.
+void UserControl1::Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift)
+{
+    int step = 0;
+    switch (KeyCode) {
+    case key::Return:
+        CommitTopItem(KeyCode, Shift);
+        return;
+    case key::Escape:
+        DropHighlight();
+        return;
+    case key::Up:
+        step = -1;
+        if (VScroll1->value() == 0)
+            return;
+        break;
+    case key::Down:
+        step = 1;
+        if (VScroll1->value() == st.ItemCount - 1)
+            return;
+        break;
+    case key::Home:
+        setScrollValue(0);
+        break;
+    case key::End:
+        // The last item alone on the first row.
+        setScrollValue(st.ItemCount - 1);
+        break;
+    default:
+        break;
+    }
+    KeyTail(step, KeyCode, Shift);
+}
+
+void UserControl1::Picture1_KeyPress(int16_t& KeyAscii)
+{
+    int16_t ascii = KeyAscii;
+    emit KeyPress(ascii);
+}
+
+void UserControl1::Picture1_KeyUp(int16_t& KeyCode, int16_t& Shift)
+{
+    raiseKeyUp(KeyCode, Shift);
+}
+
+// What is typed into the head stays there: it neither searches nor chooses.
+void UserControl1::Text1_KeyDown(int16_t& KeyCode, int16_t& Shift)
+{
+    raiseKeyDown(KeyCode, Shift);
+}
+
+// The item on the first canvas row is committed, wherever the mark is and whether
+// there is one at all; the mark stays as it was.
+void UserControl1::CommitTopItem(int16_t KeyCode, int16_t Shift)
+{
+    if (st.TopRow < 1 || st.TopRow > st.ItemCount)
+        return;
+    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(st.TopRow)]);
+    Text1->setText(col::Column(st.ItemColumns, col::Text));
+    ChosenIndex(NumberText(st.TopRow - 1));
+    if (st.ComboMode == 1)
+        CloseDropDown();
+    raiseKeyDown(KeyCode, Shift);
+}
+
+// Takes back nothing a commit has done, and commits nothing.
+void UserControl1::DropHighlight()
+{
+    if (st.SelectedRow > -1)
+        InvertRowStrip(To16(st.SelectedRow));
+    st.SelectedRow = -1;
+    if (st.ComboMode == 1)
+        CloseDropDown();
+}
+
+// The first press only shows the mark on the top row. After that a step scrolls one
+// item, whose repaint wipes the mark inside the write of the value; a step of 0 just
+// toggles the mark on row 0.
+void UserControl1::KeyTail(int step, int16_t KeyCode, int16_t Shift)
+{
+    if (st.SelectedRow == -1) {
+        InvertRowStrip(0);
+        st.SelectedRow = 0;
+        return;
+    }
+    const int v = VScroll1->value();
+    setScrollValue(v + step);
+    st.SelectedRow = 0;
+    InvertRowStrip(0);
+    raiseKeyDown(KeyCode, Shift);
+}
+
+void UserControl1::raiseKeyDown(int16_t KeyCode, int16_t Shift)
+{
+    emit KeyDown(KeyCode, Shift);
+}
+
+void UserControl1::raiseKeyUp(int16_t KeyCode, int16_t Shift)
+{
+    emit KeyUp(KeyCode, Shift);
+}

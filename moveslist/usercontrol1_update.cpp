@@ -1,0 +1,55 @@
+#include "moveslist/usercontrol1.h"
+
+#include "moveslist/itemrecord.h"
+#include "moveslist/listnumbers.h"
+
+using moveslist::NumberText;
+using moveslist::To16;
+
+namespace col = itemrecord;
+
+void UserControl1::UpdateText(const AnyValue& it, const QString& s)
+{
+    UpdateColumn(it, col::Text, [&] { return s; });
+}
+
+// A value with no numeric reading is a type mismatch, and the record stays as it was.
+void UserControl1::UpdateItemData(const AnyValue& it, const AnyValue& itd)
+{
+    UpdateColumn(it, col::ItemData, [&] { return NumberText(itd.toNumberStrict()); });
+}
+
+// Any number is stored: the image list is only asked when the row is drawn.
+void UserControl1::UpdateIcon(const AnyValue& it, const AnyValue& ipic)
+{
+    UpdateColumn(it, col::PictureIndex, [&] { return NumberText(ipic.toNumberStrict()); });
+}
+
+void UserControl1::UpdateFont(const AnyValue& it, const QString& font)
+{
+    UpdateColumn(it, col::FontName, [&] { return font; });
+}
+
+void UserControl1::UpdateForeColor(const AnyValue& it, int32_t fc)
+{
+    UpdateColumn(it, col::Colour, [&] { return NumberText(fc); });
+}
+
+// One column replaced, the others passed on as they were; the drawn width keeps its
+// old value until the row is drawn again. An item on the canvas repaints the whole
+// page, which is how a new font, colour or picture shows.
+void UserControl1::UpdateColumn(const AnyValue& it, int column,
+                                const std::function<QString()>& newColumn)
+{
+    const int16_t item = To16(it.toNumberStrict() + 1);
+    if (item > st.ItemCount || item < 1)
+        return;
+    QString& record = st.Items[static_cast<size_t>(item)];
+    st.ItemColumns = col::Split(record);
+    QStringList columns = st.ItemColumns;
+    col::Column(columns, column);
+    columns[column] = newColumn();
+    record = col::Join(columns);
+    if (item >= st.TopRow && item <= st.BottomRow)
+        DrawRows(st.TopRow, To16(st.TopRow + st.RowsInView - 1.0));
+}
