@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPolygon>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <qdrawutil.h>
@@ -27,16 +26,18 @@ constexpr double Text1Height = 252;
 constexpr double Picture3Height = 315;
 
 // The drop button's picture: a black down arrow 11 pixels wide and 10 high, 2 in
-// from the left and 3 down, on a transparent ground.
+// from the left and 3 down, on a transparent ground. A stem of four rows stands on a
+// head that narrows from 11 pixels to 1.
 QPixmap DropArrow()
 {
-    QPixmap arrow(16, 16);
+    QImage arrow(16, 16, QImage::Format_ARGB32);
     arrow.fill(Qt::transparent);
     QPainter painter(&arrow);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::black);
-    painter.drawPolygon(QPolygon({QPoint(2, 3), QPoint(13, 3), QPoint(7, 13)}));
-    return arrow;
+    painter.fillRect(QRect(6, 3, 3, 4), Qt::black);
+    for (int row = 0; row < 6; ++row)
+        painter.fillRect(QRect(2 + row, 7 + row, 11 - 2 * row, 1), Qt::black);
+    painter.end();
+    return QPixmap::fromImage(arrow);
 }
 
 } // namespace
@@ -52,7 +53,8 @@ UserControl1::UserControl1(QWidget* parent)
     createChildren();
     wireEvents();
     applySurfaceBackColor(surfaceBackColor);
-    applySurfaceBorder(surfaceBorderStyle);
+    // A new control has a fixed single border.
+    applySurfaceBorder(1);
     UserControl_Initialize();
 }
 
@@ -140,11 +142,18 @@ void UserControl1::paintEvent(QPaintEvent* event)
     qDrawShadePanel(&painter, rect(), palette(), true, borderPixels());
 }
 
+// Children are placed inside the border: a new border moves them with the inside.
 void UserControl1::applySurfaceBorder(int16_t style)
 {
+    const int before = borderPixels();
     surfaceBorderStyle = style;
     const int border = borderPixels();
     setContentsMargins(border, border, border, border);
+    if (border != before)
+        for (QWidget* child : {static_cast<QWidget*>(Picture1), static_cast<QWidget*>(Picture2),
+                               static_cast<QWidget*>(Picture3), static_cast<QWidget*>(Text1),
+                               static_cast<QWidget*>(VScroll1), static_cast<QWidget*>(command1)})
+            child->move(child->pos() + QPoint(border - before, border - before));
     update();
 }
 

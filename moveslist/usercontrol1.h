@@ -252,7 +252,7 @@ private:
 
     ListState st;
     bool inDesign = false;
-    int16_t surfaceBorderStyle = 1;
+    int16_t surfaceBorderStyle = 0;
     int32_t surfaceBackColor;
     int32_t surfaceForeColor;
     QSize laidOutSize;
