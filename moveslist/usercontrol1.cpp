@@ -108,9 +108,14 @@ void UserControl1::createChildren()
     VScroll1->setTracking(false);
     connect(VScroll1, &QScrollBar::valueChanged, this, [this] { VScroll1_Change(); });
 
+    // A picture that serves as a button: raised like one, with no pressed look.
     command1 = new QLabel(this);
     command1->setPixmap(DropArrow());
     command1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    command1->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    command1->setLineWidth(1);
+    command1->setAutoFillBackground(true);
+    command1->setBackgroundRole(QPalette::Button);
 
     Picture1->setObjectName(QStringLiteral("Picture1"));
     Picture2->setObjectName(QStringLiteral("Picture2"));
