@@ -2,6 +2,9 @@
 
 #include "moveslist/listerror.h"
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 [[noreturn]] void InvalidPattern(const QString& pattern, const QString& why)
@@ -34,6 +37,18 @@ LikePattern::LikePattern(const QString& pattern)
         default:
             tokens.emplace_back(Kind::Char, unit);
         }
+    }
+    firstStar = tokens.size();
+    lastStar = tokens.size();
+    for (size_t t = 0; t < tokens.size(); ++t) {
+        if (tokens[t].kind == Kind::Star) {
+            firstStar = std::min(firstStar, t);
+            lastStar = t;
+        }
+        const bool known = std::find(requiredUnits.begin(), requiredUnits.end(), tokens[t].unit) !=
+                           requiredUnits.end();
+        if (tokens[t].kind == Kind::Char && !known && requiredUnits.size() < MaxRequiredUnits)
+            requiredUnits.push_back(tokens[t].unit);
     }
 }
 
@@ -91,34 +106,100 @@ bool LikePattern::accepts(const Token& token, char16_t unit)
     return false;
 }
 
+// What stands before the first star has to match the start of the subject, and what
+// stands after the last star its end: most subjects fail there at once.
+bool LikePattern::matches(QStringView subject, bool upperCase) const
+{
+    const auto unit = [&](qsizetype s) {
+        return upperCase ? UpperUnit(subject[s].unicode()) : subject[s].unicode();
+    };
+    const auto n = static_cast<size_t>(subject.size());
+    if (firstStar == tokens.size()) {
+        if (n != tokens.size())
+            return false;
+        for (size_t t = 0; t < n; ++t)
+            if (!accepts(tokens[t], unit(qsizetype(t))))
+                return false;
+        return true;
+    }
+    const size_t tailLength = tokens.size() - lastStar - 1;
+    if (n < firstStar + tailLength)
+        return false;
+    for (size_t t = 0; t < firstStar; ++t)
+        if (!accepts(tokens[t], unit(qsizetype(t))))
+            return false;
+    for (size_t k = 0; k < tailLength; ++k)
+        if (!accepts(tokens[lastStar + 1 + k], unit(qsizetype(n - tailLength + k))))
+            return false;
+    for (const char16_t required : requiredUnits)
+        if (!mayHold(subject, required, upperCase))
+            return false;
+    return matchesBetweenStars(
+        subject.mid(qsizetype(firstStar), qsizetype(n - tailLength - firstStar)), upperCase);
+}
+
 // Every token but the star takes exactly one character, so a failure after a star
 // only ever needs that star to take one character more: going back to earlier stars
 // could not find a match the last one misses.
-bool LikePattern::matches(QStringView subject, bool upperCase) const
+bool LikePattern::matchesBetweenStars(QStringView middle, bool upperCase) const
 {
-    const size_t tokenCount = tokens.size();
-    size_t t = 0;
+    const size_t end = lastStar + 1;
+    size_t t = firstStar;
     qsizetype s = 0;
-    size_t star = tokenCount;
+    size_t star = end;
     qsizetype starAt = 0;
-    while (s < subject.size()) {
-        const char16_t unit = upperCase ? UpperUnit(subject[s].unicode()) : subject[s].unicode();
-        if (t < tokenCount && tokens[t].kind == Kind::Star) {
+    while (s < middle.size()) {
+        const char16_t unit = upperCase ? UpperUnit(middle[s].unicode()) : middle[s].unicode();
+        if (t < end && tokens[t].kind == Kind::Star) {
             star = t++;
             starAt = s;
-        } else if (t < tokenCount && accepts(tokens[t], unit)) {
+        } else if (t < end && accepts(tokens[t], unit)) {
             ++t;
             ++s;
-        } else if (star < tokenCount) {
+        } else if (star < end) {
             t = star + 1;
             s = ++starAt;
         } else {
             return false;
         }
     }
-    while (t < tokenCount && tokens[t].kind == Kind::Star)
+    while (t < end && tokens[t].kind == Kind::Star)
         ++t;
-    return t == tokenCount;
+    return t == end;
+}
+
+namespace {
+
+// The ASCII units that some other unit turns into when upper-cased: I from the dotless
+// i, S from the long s. A subject can hold those without showing them.
+const std::array<bool, 0x80>& ReachedFromAbove()
+{
+    static const std::array<bool, 0x80> reached = [] {
+        std::array<bool, 0x80> table{};
+        for (char32_t unit = 0x80; unit <= 0xFFFF; ++unit) {
+            const char16_t upper = LikePattern::UpperUnit(char16_t(unit));
+            if (upper < 0x80)
+                table[upper] = true;
+        }
+        return table;
+    }();
+    return reached;
+}
+
+} // namespace
+
+// Every plain character of the pattern has to be somewhere in the subject: a search
+// for it is far quicker than the walk between the stars. Where upper-casing makes it
+// hard to tell, the subject is given the benefit of the doubt.
+bool LikePattern::mayHold(QStringView subject, char16_t unit, bool upperCase)
+{
+    if (!upperCase)
+        return subject.contains(QChar(unit));
+    if (unit >= 0x80 || ReachedFromAbove()[unit])
+        return true;
+    const bool letter = unit >= u'A' && unit <= u'Z';
+    return subject.contains(QChar(unit)) ||
+           (letter && subject.contains(QChar(char16_t(unit + (u'a' - u'A')))));
 }
 
 QString LikePattern::UpperCase(const QString& text)

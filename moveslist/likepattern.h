@@ -44,6 +44,14 @@ private:
 
     qsizetype readList(const QString& pattern, qsizetype open);
     static bool accepts(const Token& token, char16_t unit);
+    bool matchesBetweenStars(QStringView middle, bool upperCase) const;
+    static bool mayHold(QStringView subject, char16_t unit, bool upperCase);
 
     std::vector<Token> tokens;
+    // Places of the first and the last star; the number of tokens when there is none.
+    size_t firstStar = 0;
+    size_t lastStar = 0;
+    // A few plain characters the subject must hold somewhere, looked for first.
+    static constexpr size_t MaxRequiredUnits = 4;
+    std::vector<char16_t> requiredUnits;
 };

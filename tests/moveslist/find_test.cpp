@@ -206,9 +206,10 @@ private:
 
 TEST(PatternLanguage, AgreesWithAnIndependentMatcherOnRandomInputs)
 {
-    const QStringList pieces = {"a", "b", "1", "-",  "!",   "]",  "?",
+    const QStringList pieces = {"a", "b", "I", "1",  "-",   "!",  "]",  "?",
                                 "*", "#", "[", "[!", "a-b", "-a", "b-a"};
-    const QString letters = QStringLiteral("ab1-!]*");
+    // The dotless i upper-cases to I.
+    const QString letters = QString::fromUtf8("abAI1-!]*\u0131");
     std::mt19937 random(2024);
     int matched = 0;
     int malformed = 0;
@@ -237,6 +238,17 @@ TEST(PatternLanguage, AgreesWithAnIndependentMatcherOnRandomInputs)
         }
         ASSERT_EQ(actual, expected)
             << '"' << pattern.toStdString() << "\" on \"" << subject.toStdString() << '"';
+        // Case not counting: both sides upper-cased.
+        const QString upper = LikePattern::UpperCase(pattern);
+        const std::optional<bool> expectedUpper =
+            ReferenceMatcher::Match(upper, LikePattern::UpperCase(subject));
+        std::optional<bool> actualUpper;
+        try {
+            actualUpper = LikePattern(upper).matches(subject, true);
+        } catch (const ListError&) {
+        }
+        ASSERT_EQ(actualUpper, expectedUpper)
+            << "upper \"" << pattern.toStdString() << "\" on \"" << subject.toStdString() << '"';
         matched += expected.value_or(false);
         malformed += !expected;
     }

@@ -1,0 +1,175 @@
+// Sorting and finding in the moves list control at its largest size, 32,767 items,
+// beside a stock QListWidget doing the same work on the same texts: sortItems, and
+// findItems with Qt::MatchWildcard.
+
+#include "moveslist/lbblock.h"
+#include "moveslist/usercontrol1.h"
+
+#include <QListWidget>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <random>
+
+namespace {
+
+constexpr int Items = 32767;
+
+QString RandomText(std::mt19937& random, int length, const QString& letters)
+{
+    QString text;
+    for (int i = 0; i < length; ++i)
+        text += letters[int(random() % letters.size())];
+    return text;
+}
+
+const QStringList& RandomTexts()
+{
+    static const QStringList texts = [] {
+        std::mt19937 random(1);
+        const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGH0123456789 ");
+        QStringList made;
+        for (int i = 0; i < Items; ++i)
+            made << RandomText(random, 8 + int(random() % 33), letters);
+        return made;
+    }();
+    return texts;
+}
+
+const QStringList& IdenticalTexts()
+{
+    static const QStringList texts(Items, QStringLiteral("HUMAN  pot C: 4 beads"));
+    return texts;
+}
+
+// 200 characters each, full of a's and without a single b.
+const QStringList& LongTexts()
+{
+    static const QStringList texts = [] {
+        std::mt19937 random(2);
+        const QString letters = QStringLiteral("aaacdefghij ");
+        QStringList made;
+        for (int i = 0; i < Items; ++i)
+            made << RandomText(random, 200, letters);
+        return made;
+    }();
+    return texts;
+}
+
+// The list as a host sets it up, with the first rows painted, so that a sort repaints.
+std::unique_ptr<UserControl1> FilledList(const QStringList& texts)
+{
+    std::unique_ptr<UserControl1> list(UserControl1::FromBlock(lbblock::Write(PropertyBag())));
+    list->DropDownHeight(3750);
+    list->Mode(0);
+    for (QString s : texts)
+        list->Additem(s);
+    list->ShowItem(1);
+    return list;
+}
+
+void ListSort(benchmark::State& state, const QStringList& texts)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto list = FilledList(texts);
+        state.ResumeTiming();
+        list->SortAscending();
+        state.PauseTiming();
+        list.reset();
+        state.ResumeTiming();
+    }
+}
+
+void WidgetSort(benchmark::State& state, const QStringList& texts)
+{
+    QListWidget list;
+    for (auto _ : state) {
+        state.PauseTiming();
+        list.clear();
+        list.addItems(texts);
+        state.ResumeTiming();
+        list.sortItems(Qt::AscendingOrder);
+    }
+}
+
+void BM_ListSortRandomTexts(benchmark::State& state)
+{
+    ListSort(state, RandomTexts());
+}
+
+void BM_QListWidgetSortRandomTexts(benchmark::State& state)
+{
+    WidgetSort(state, RandomTexts());
+}
+
+void BM_ListSortIdenticalTexts(benchmark::State& state)
+{
+    ListSort(state, IdenticalTexts());
+}
+
+void BM_QListWidgetSortIdenticalTexts(benchmark::State& state)
+{
+    WidgetSort(state, IdenticalTexts());
+}
+
+// The pattern named in the target, and the same with a star behind it, which leaves the
+// end of the subject free and so makes every item walk all its characters.
+const QString EndsInB = QStringLiteral("*a*a*a*a*a*a*a*a*b");
+const QString HoldsB = QStringLiteral("*a*a*a*a*a*a*a*a*b*");
+
+void ListFind(benchmark::State& state, const QString& pattern)
+{
+    auto list = FilledList(LongTexts());
+    for (auto _ : state) {
+        const AnyValue found = list->Find(0, 0, pattern);
+        if (!(found == AnyValue(0))) {
+            state.SkipWithError("an item was found");
+            return;
+        }
+    }
+}
+
+void WidgetFind(benchmark::State& state, const QString& pattern)
+{
+    QListWidget list;
+    list.addItems(LongTexts());
+    for (auto _ : state) {
+        if (!list.findItems(pattern, Qt::MatchWildcard).isEmpty()) {
+            state.SkipWithError("an item was found");
+            return;
+        }
+    }
+}
+
+void BM_ListFindEndsInB(benchmark::State& state)
+{
+    ListFind(state, EndsInB);
+}
+
+void BM_QListWidgetFindEndsInB(benchmark::State& state)
+{
+    WidgetFind(state, EndsInB);
+}
+
+void BM_ListFindHoldsB(benchmark::State& state)
+{
+    ListFind(state, HoldsB);
+}
+
+void BM_QListWidgetFindHoldsB(benchmark::State& state)
+{
+    WidgetFind(state, HoldsB);
+}
+
+BENCHMARK(BM_ListSortRandomTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_QListWidgetSortRandomTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_ListSortIdenticalTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_QListWidgetSortIdenticalTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_ListFindEndsInB)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_QListWidgetFindEndsInB)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ListFindHoldsB)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_QListWidgetFindHoldsB)->Unit(benchmark::kMillisecond);
+
+} // namespace
