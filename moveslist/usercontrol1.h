@@ -30,6 +30,10 @@ class QScrollBar;
 //
 // Writing the scroll bar's value or the control's height runs VScroll1_Change or
 // UserControl_Resize inside that write; Additem relies on that order.
+//
+// In drop-down mode (Mode 1) the control opens by making itself taller and raising
+// itself over what its host placed below the head: the host positions it by hand, not
+// in a layout that would take the height back, and leaves room in the parent.
 class UserControl1 : public QWidget {
     Q_OBJECT
     friend class ListProbe;
@@ -134,6 +138,8 @@ public:
     const QImage& canvas() const;
 
 signals:
+    // The host gets copies by reference: what it writes to them changes nothing.
+    // Click and MouseDown are declared for hosts that connect them; nothing raises them.
     void MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void KeyDown(int16_t& KeyCode, int16_t& Shift);
     void KeyPress(int16_t& KeyAscii);
