@@ -5,41 +5,6 @@
 
 namespace inputnumbers {
 
-int16_t ButtonNumber(Qt::MouseButton button)
-{
-    switch (button) {
-    case Qt::LeftButton:
-        return 1;
-    case Qt::RightButton:
-        return 2;
-    case Qt::MiddleButton:
-        return 4;
-    default:
-        return 0;
-    }
-}
-
-int16_t ButtonsNumber(Qt::MouseButtons buttons)
-{
-    int16_t number = 0;
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
-        if (buttons & button)
-            number = int16_t(number | ButtonNumber(button));
-    return number;
-}
-
-int16_t ShiftNumber(Qt::KeyboardModifiers modifiers)
-{
-    int16_t number = 0;
-    if (modifiers & Qt::ShiftModifier)
-        number |= 1;
-    if (modifiers & Qt::ControlModifier)
-        number |= 2;
-    if (modifiers & Qt::AltModifier)
-        number |= 4;
-    return number;
-}
-
 namespace {
 
 constexpr std::array<std::pair<int, int16_t>, 34> NamedKeys{{

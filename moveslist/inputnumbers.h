@@ -9,11 +9,8 @@
 // The numbers the list's events carry, as hosts of such a list know them.
 namespace inputnumbers {
 
-// Button: 1 left, 2 right, 4 middle; a move gives the sum of the buttons held.
-int16_t ButtonNumber(Qt::MouseButton button);
-int16_t ButtonsNumber(Qt::MouseButtons buttons);
-// Shift: 1 Shift, 2 Ctrl, 4 Alt, added up.
-int16_t ShiftNumber(Qt::KeyboardModifiers modifiers);
+// Buttons and shift keys are numbered as on the board's own faces (controls/mouse_numbers.h):
+// a press or release names its one button, a move the sum of the buttons held.
 
 // The desktop's key codes: 13 Return, 27 Escape, 33 to 40 the paging and arrow keys,
 // 48 to 57 and 65 to 90 the digits and letters, 112 on the function keys; 0 for a

@@ -1,5 +1,6 @@
 #include "moveslist/usercontrol1.h"
 
+#include "controls/mouse_numbers.h"
 #include "moveslist/inputnumbers.h"
 #include "moveslist/picturebox.h"
 
@@ -141,7 +142,7 @@ void UserControl1::mouseMoveEvent(QMouseEvent* event)
 // every button held, a release the one let go.
 UserControl1::MouseArguments UserControl1::mouseArguments(const QMouseEvent& event, bool move) const
 {
-    return {move ? ButtonsNumber(event.buttons()) : ButtonNumber(event.button()),
+    return {ButtonNumber(move ? event.buttons() : Qt::MouseButtons(event.button())),
             ShiftNumber(event.modifiers()), float(event.position().x() * ScreenTwipsX()),
             float(event.position().y() * ScreenTwipsY())};
 }
