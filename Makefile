@@ -2,7 +2,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
-.PHONY: all deps configure build run test test-sanitize bench package format clean
+.PHONY: all deps configure build run test test-sanitize fuzz soak bench package format clean
 
 all: build
 
@@ -32,6 +32,20 @@ test-sanitize: deps
 		LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitize.supp:print_suppressions=0 \
 		UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 		ctest --output-on-failure
+
+# Each fuzz target for FUZZ_SECONDS, built with clang's libFuzzer in a folder of its own.
+FUZZ_BUILD ?= build-fuzz
+FUZZ_SECONDS ?= 60
+fuzz: deps
+	@cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+		-DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DTAVOK_FUZZ=ON >/dev/null
+	@cmake --build $(FUZZ_BUILD) --target fuzz_targets
+	@tests/fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+# Ten thousand whole games through the real window, offscreen, watching memory.
+SOAK_GAMES ?= 10000
+soak: build
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/tests/soak/tavok-soak $(SOAK_GAMES)
 
 bench: build
 	@$(BUILD)/bench/tavok-bench

@@ -8,6 +8,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core fonts-liberation fonts-liberation2 xvfb xauth
   appstream desktop-file-utils dpkg-dev
+  clang libclang-rt-14-dev
 )
 
 missing=()
