@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
 #include <cmath>
 
 double TwipsPerPixelY()
@@ -55,6 +56,15 @@ std::unique_ptr<UserControl1> MovesListAsSetUp()
     return list;
 }
 
+std::unique_ptr<UserControl1> UnpaintedList(int items)
+{
+    auto list = LoadedList();
+    list->DropDownHeight(2000);
+    list->Mode(0);
+    AppendItems(*list, items);
+    return list;
+}
+
 std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight)
 {
     auto list = LoadedList();
@@ -74,6 +84,15 @@ bool RowMarked(const UserControl1& list, int row)
     return (list.canvas().pixel(list.canvas().width() - 3, y) & 0xFFFFFF) != 0xFFFFFF;
 }
 
+bool Blank(const QImage& image, QRgb colour, int top)
+{
+    for (int y = std::max(top, 0); y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != colour)
+                return false;
+    return true;
+}
+
 void AppendItems(UserControl1& list, int n)
 {
     for (int i = 1; i <= n; ++i) {
@@ -88,12 +107,30 @@ void AppendTexts(UserControl1& list, const QStringList& texts)
         list.Additem(s);
 }
 
+std::pair<int16_t, int32_t> AddFull(UserControl1& list, const QString& text, int16_t itemx,
+                                    int16_t ipic, int32_t colour, const QString& font)
+{
+    QString s = text;
+    QString ItemFont = font;
+    list.Additem(s, itemx, ipic, ItemFont, colour);
+    return {ipic, colour};
+}
+
 QStringList Texts(const UserControl1& list)
 {
     QStringList texts;
     for (int it = 0; it < list.ListCount().toNumber(); ++it)
         texts << list.List(it).toText();
     return texts;
+}
+
+std::vector<QString> Records(UserControl1& list)
+{
+    ListProbe probe(list);
+    std::vector<QString> records;
+    for (int item = 1; item <= list.state().ItemCount; ++item)
+        records.push_back(probe.record(item));
+    return records;
 }
 
 int ErrorCode(const std::function<void()>& call)

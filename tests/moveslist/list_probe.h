@@ -11,6 +11,8 @@
 #include <functional>
 #include <memory>
 #include <ostream>
+#include <utility>
+#include <vector>
 
 // Reaches the list's children and inner steps, which a host never sees.
 class ListProbe {
@@ -92,17 +94,27 @@ double MeasuredTextHeight(const UserControl1& list);
 std::unique_ptr<UserControl1> LoadedList();
 // The game's log as the main window sets it up.
 std::unique_ptr<UserControl1> MovesListAsSetUp();
+// A list shown in list mode with items "item 1" .. "item n", never painted: TopRow
+// stays -1.
+std::unique_ptr<UserControl1> UnpaintedList(int items = 0);
 // A plain list 300 pixels wide on a white canvas, shown from item 1, as a host would
 // set one up; not on the screen.
 std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight = 2000);
 // Whether the strip of canvas row `row` is inverted: read at the canvas' right end,
 // where no text reaches.
 bool RowMarked(const UserControl1& list, int row);
+// Whether every pixel of the image from line `top` down is `colour`.
+bool Blank(const QImage& image, QRgb colour, int top = 0);
 // Appends items "item 1" .. "item n".
 void AppendItems(UserControl1& list, int n);
 // Appends one item per text, in order.
 void AppendTexts(UserControl1& list, const QStringList& texts);
+// Additem with all five arguments; gives ipic and ItemColor as the list settled them.
+std::pair<int16_t, int32_t> AddFull(UserControl1& list, const QString& text, int16_t itemx,
+                                    int16_t ipic, int32_t colour, const QString& font = {});
 // The texts of all items, first to last.
 QStringList Texts(const UserControl1& list);
+// The whole records of all items, first to last.
+std::vector<QString> Records(UserControl1& list);
 // The code of the ListError a call ends in, or 0 when it ends normally.
 int ErrorCode(const std::function<void()>& call);

@@ -59,13 +59,8 @@ protected:
     // Black rows of "MMMM".
     void addRows(int n)
     {
-        for (int i = 0; i < n; ++i) {
-            QString s = QStringLiteral("MMMM");
-            int16_t ipic = -1;
-            QString font;
-            int32_t black = 0;
-            list->Additem(s, 0, ipic, font, black);
-        }
+        for (int i = 0; i < n; ++i)
+            AddFull(*list, QStringLiteral("MMMM"), 0, -1, 0);
     }
 
     QFont rowFont() const
@@ -155,31 +150,25 @@ TEST_F(Painting, RowsPastTheLastItemStayBlankAndAHiddenCanvasIsNotRepainted)
     EXPECT_EQ(list->state().BottomRow, 2);
 }
 
-TEST_F(Painting, TheGridLineStandsTwoPixelsAboveTheRowsEnd)
+// Pen OR NOT destination: the default colour 0 gives black on white, and on a black
+// ground the line is white whatever the pen adds to it.
+TEST_F(Painting, TheGridLineStandsTwoPixelsAboveTheRowsEndOrdWithTheInverseOfTheGround)
 {
     list->GridLines(true);
     addRows(4);
     const QImage& canvas = list->canvas();
     const int x = canvas.width() - 2;
     for (int k = 0; k < 4; ++k) {
-        const double rowEnd = (k + 1.0) * list->state().RowTwips;
-        const int line = PixelsDown(rowEnd - 2 * TwipsPerPixelY());
-        EXPECT_EQ(line, PixelsDown(rowEnd) - 2);
-        EXPECT_EQ(canvas.pixel(x, line), 0xFF000000) << "row " << k;
-        EXPECT_EQ(canvas.pixel(x, line - 1), WhitePixel) << "row " << k;
-        EXPECT_EQ(canvas.pixel(x, line + 1), WhitePixel) << "row " << k;
-        EXPECT_EQ(canvas.pixel(0, line), 0xFF000000) << "row " << k;
+        const int line = PixelsDown((k + 1.0) * list->state().RowTwips) - 2;
+        EXPECT_EQ(QList<QRgb>({canvas.pixel(0, line), canvas.pixel(x, line),
+                               canvas.pixel(x, line - 1), canvas.pixel(x, line + 1)}),
+                  QList<QRgb>({0xFF000000, 0xFF000000, WhitePixel, WhitePixel}))
+            << "row " << k;
     }
-}
-
-TEST_F(Painting, TheGridColourIsOrdWithTheInverseOfTheGround)
-{
-    list->GridLines(true);
+    const int line = PixelsDown(list->state().RowTwips) - 2;
     list->GridColor(0x000000FF);
-    addRows(1);
-    const int line = PixelsDown(list->state().RowTwips - 2 * TwipsPerPixelY());
+    probe.DrawRows(1, 1);
     EXPECT_EQ(list->canvas().pixel(1, line), qRgb(255, 0, 0));
-    // On a black ground NOT destination is white, whatever the pen adds to it.
     list->BackColor(0);
     probe.DrawRows(1, 1);
     EXPECT_EQ(list->canvas().pixel(1, line), WhitePixel);
@@ -225,11 +214,8 @@ protected:
         QImage picture(width, height, QImage::Format_RGB32);
         picture.fill(qRgb(0, 255, 255));
         pictures->Add(picture);
-        QString s = QStringLiteral("with picture");
-        int16_t ipic = static_cast<int16_t>(pictures->Count());
-        QString font;
-        int32_t colour = 0;
-        list->Additem(s, 0, ipic, font, colour);
+        AddFull(*list, QStringLiteral("with picture"), 0, static_cast<int16_t>(pictures->Count()),
+                0);
     }
 
     // A point inside the picture's place on the first row.

@@ -1,0 +1,304 @@
+#include "list_events.h"
+#include "list_probe.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<int> Codes(const std::vector<ListEvents::Key>& keys)
+{
+    std::vector<int> codes;
+    for (const ListEvents::Key& key : keys)
+        codes.push_back(key.KeyCode);
+    return codes;
+}
+
+class KeyWalk : public ::testing::Test {
+protected:
+    void press(Qt::Key key) { QTest::keyClick(probe.canvasWidget(), key); }
+
+    std::vector<int> keyDowns() const { return Codes(events.KeyDown); }
+
+    std::unique_ptr<UserControl1> list = WhiteList(20);
+    ListProbe probe{*list};
+    ListEvents events{*list};
+};
+
+TEST_F(KeyWalk, TheFirstPressShowsTheMarkAndEachFurtherStepScrollsOneItemUnderIt)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(list->state().SelectedRow, 0);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_TRUE(events.KeyDown.empty());
+    EXPECT_EQ(Codes(events.KeyUp), std::vector<int>({40}));
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    EXPECT_EQ(probe.scrollValue(), 2);
+    EXPECT_EQ(list->state().TopRow, 3);
+    press(Qt::Key_Up);
+    EXPECT_EQ(probe.scrollValue(), 1);
+    EXPECT_EQ(list->state().SelectedRow, 0);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_FALSE(RowMarked(*list, 1));
+    EXPECT_EQ(keyDowns(), std::vector<int>({40, 40, 38}));
+}
+
+TEST_F(KeyWalk, TheEndsStopTheWalkAndEndPutsTheLastItemAloneOnTop)
+{
+    // Not even the mark appears.
+    press(Qt::Key_Up);
+    EXPECT_EQ(list->state().SelectedRow, -1);
+    EXPECT_FALSE(RowMarked(*list, 0));
+    press(Qt::Key_Down);
+    press(Qt::Key_End);
+    EXPECT_EQ(probe.scrollValue(), 19);
+    EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
+              std::make_pair(int16_t(20), int16_t(20)));
+    // The scroll wiped the mark, so the tail only shows it again.
+    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_FALSE(RowMarked(*list, 1));
+    press(Qt::Key_Down);
+    EXPECT_EQ(probe.scrollValue(), 19);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(events.KeyDown.empty());
+}
+
+TEST_F(KeyWalk, HomeEndAndPagingWhereTheListAlreadyIsToggleTheMark)
+{
+    press(Qt::Key_End);
+    press(Qt::Key_End);
+    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_EQ(list->state().SelectedRow, 0);
+    press(Qt::Key_Home);
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    press(Qt::Key_Home);
+    EXPECT_FALSE(RowMarked(*list, 0));
+    // No key pages.
+    press(Qt::Key_PageDown);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    press(Qt::Key_PageUp);
+    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_EQ(probe.scrollValue(), 0);
+    EXPECT_EQ(keyDowns(), std::vector<int>({35, 36, 34, 33}));
+}
+
+TEST_F(KeyWalk, ReturnCommitsTheTopItemWhereverTheMarkIs)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QTest::mouseClick(probe.canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 3));
+    ASSERT_EQ(list->text(), AnyValue("item 5"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(list->text(), AnyValue("item 2"));
+    EXPECT_EQ(probe.ChosenIndex(), " 1");
+    EXPECT_EQ(list->state().SelectedRow, 3);
+    EXPECT_TRUE(RowMarked(*list, 3));
+    // Escape takes the mark off and the choice back not at all.
+    press(Qt::Key_Escape);
+    EXPECT_EQ(list->state().SelectedRow, -1);
+    EXPECT_FALSE(RowMarked(*list, 3));
+    EXPECT_EQ(list->text(), AnyValue("item 2"));
+    QTest::keyClick(probe.canvasWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(list->ListIndex(), AnyValue(1));
+    EXPECT_EQ(keyDowns(), std::vector<int>({40, 13, 13}));
+}
+
+TEST_F(KeyWalk, AfterAMousePickLowerDownTheMarkJumpsToTheTop)
+{
+    QTest::mouseClick(probe.canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 4));
+    press(Qt::Key_Down);
+    EXPECT_EQ(probe.scrollValue(), 1);
+    EXPECT_EQ(list->state().SelectedRow, 0);
+    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_FALSE(RowMarked(*list, 4));
+}
+
+TEST_F(KeyWalk, KeyPressAndKeyUpReachTheHostForEveryKey)
+{
+    QTest::keyClick(probe.canvasWidget(), Qt::Key_A);
+    press(Qt::Key_Up);
+    EXPECT_TRUE(events.KeyDown.empty());
+    EXPECT_EQ(events.KeyPress, std::vector<int>({'a'}));
+    EXPECT_EQ(Codes(events.KeyUp), std::vector<int>({65, 38}));
+    // The Shift key goes down first, and is a key like any other.
+    QTest::keyClick(probe.canvasWidget(), 'A', Qt::ShiftModifier);
+    ASSERT_EQ(keyDowns(), std::vector<int>({16, 65}));
+    EXPECT_EQ(events.KeyDown[1].Shift, 1);
+    EXPECT_EQ(events.KeyPress.back(), 'A');
+}
+
+TEST(KeysOnShortLists, NoItemOnTopCommitsNothingAndOneItemStopsAtOnce)
+{
+    // End on an empty list asks the bar for value -1: the key ends there.
+    auto empty = UnpaintedList();
+    ListEvents emptyEvents(*empty);
+    QTest::keyClick(ListProbe(*empty).canvasWidget(), Qt::Key_Down);
+    QTest::keyClick(ListProbe(*empty).canvasWidget(), Qt::Key_End);
+    EXPECT_EQ(empty->state().SelectedRow, 0);
+    EXPECT_TRUE(emptyEvents.KeyDown.empty());
+    auto unpainted = UnpaintedList(3);
+    ASSERT_EQ(unpainted->state().TopRow, -1);
+    ListEvents unpaintedEvents(*unpainted);
+    QTest::keyClick(ListProbe(*unpainted).canvasWidget(), Qt::Key_Return);
+    EXPECT_EQ(unpainted->text(), AnyValue(""));
+    EXPECT_TRUE(unpaintedEvents.KeyDown.empty());
+
+    auto list = WhiteList(1);
+    ListEvents events(*list);
+    QWidget* canvas = ListProbe(*list).canvasWidget();
+    QTest::keyClick(canvas, Qt::Key_Down);
+    QTest::keyClick(canvas, Qt::Key_Down);
+    QTest::keyClick(canvas, Qt::Key_Up);
+    EXPECT_EQ(list->state().SelectedRow, -1);
+    QTest::keyClick(canvas, Qt::Key_Return);
+    EXPECT_EQ(list->text(), AnyValue("item 1"));
+    EXPECT_EQ(Codes(events.KeyDown), std::vector<int>({13}));
+}
+
+TEST(KeysInTheHead, TypingStaysInTheTextBoxAndOnlyKeyDownReachesTheHost)
+{
+    auto list = LoadedList();
+    list->DropDownHeight(2000);
+    list->Mode(1);
+    AppendItems(*list, 3);
+    ListProbe probe(*list);
+    ListEvents events(*list);
+    QTest::keyClicks(probe.textBox(), "ab");
+    QTest::keyClick(probe.textBox(), Qt::Key_Down);
+    EXPECT_EQ(list->text(), AnyValue("ab"));
+    EXPECT_EQ(probe.ChosenIndex(), "");
+    EXPECT_TRUE(probe.canvasHidden());
+    EXPECT_EQ(Codes(events.KeyDown), std::vector<int>({65, 66, 40}));
+    EXPECT_TRUE(events.KeyPress.empty());
+    EXPECT_TRUE(events.KeyUp.empty());
+}
+
+class MousePick : public ::testing::Test {
+protected:
+    void click(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(probe.canvasWidget(), button, keys, RowPoint(*list, row));
+    }
+
+    std::unique_ptr<UserControl1> list = WhiteList(20);
+    ListProbe probe{*list};
+    ListEvents events{*list};
+};
+
+// The right button picks as the left does, and Enabled gates nothing.
+TEST_F(MousePick, AReleaseOnARowChoosesItsItemMarksItAndTellsTheHostLast)
+{
+    QString seen;
+    QObject::connect(list.get(), &UserControl1::MouseUp,
+                     [&](int16_t&, int16_t&, float&, float&) { seen = list->text().toText(); });
+    list->Enabled(false);
+    click(1, Qt::RightButton, Qt::ControlModifier | Qt::AltModifier);
+    click(2, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(list->text(), AnyValue("item 3"));
+    EXPECT_EQ(seen, "item 3");
+    EXPECT_EQ(probe.ChosenIndex(), " 2");
+    EXPECT_EQ(list->state().SelectedRow, 2);
+    EXPECT_TRUE(RowMarked(*list, 2));
+    EXPECT_FALSE(RowMarked(*list, 1));
+    ASSERT_EQ(events.MouseUp.size(), 2u);
+    const ListEvents::Mouse& right = events.MouseUp[0];
+    const ListEvents::Mouse& left = events.MouseUp[1];
+    EXPECT_EQ(std::make_tuple(right.Button, right.Shift, left.Button, left.Shift),
+              std::make_tuple(2, 6, 1, 1));
+    // In twips, on the canvas.
+    EXPECT_FLOAT_EQ(left.X, float(30 * TwipsPerPixelX()));
+    EXPECT_FLOAT_EQ(left.Y, float(RowPoint(*list, 2).y() * TwipsPerPixelY()));
+    EXPECT_EQ(events.Click + events.MouseDown, 0);
+}
+
+TEST_F(MousePick, TheMarkedRowStaysMarkedAlsoThroughADoubleClickAndAnotherTakesItOver)
+{
+    QWidget* canvas = probe.canvasWidget();
+    const QPoint at = RowPoint(*list, 2);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, at);
+    QTest::mouseDClick(canvas, Qt::LeftButton, {}, at);
+    QTest::mouseRelease(canvas, Qt::LeftButton, {}, at);
+    EXPECT_TRUE(RowMarked(*list, 2));
+    click(4);
+    EXPECT_FALSE(RowMarked(*list, 2));
+    EXPECT_TRUE(RowMarked(*list, 4));
+    EXPECT_EQ(events.MouseUp.size(), 3u);
+}
+
+TEST_F(MousePick, RowsBelowTheLastItemAndAnEmptyListAreDead)
+{
+    std::unique_ptr<UserControl1> others[] = {WhiteList(3), UnpaintedList()};
+    for (auto& other : others) {
+        ListEvents heard(*other);
+        QTest::mouseClick(ListProbe(*other).canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 4));
+        EXPECT_EQ(other->text(), AnyValue(""));
+        EXPECT_EQ(other->state().SelectedRow, -1);
+        EXPECT_TRUE(heard.MouseUp.empty());
+    }
+
+    // The last item alone on the first row: every row beneath it is dead.
+    list->ShowItem(20);
+    click(1);
+    click(5);
+    EXPECT_TRUE(events.MouseUp.empty());
+    EXPECT_EQ(list->state().SelectedRow, 0);
+    click(0);
+    EXPECT_EQ(events.MouseUp.size(), 1u);
+}
+
+TEST_F(MousePick, AReleaseAboveTheCanvasPicksTheRowsAboveTheTop)
+{
+    QWidget* canvas = probe.canvasWidget();
+    const QPoint above(30, -PixelsDown(list->state().RowTwips * 1.5));
+    // Nothing lies above item 1.
+    QTest::mousePress(canvas, Qt::LeftButton, {}, RowPoint(*list, 0));
+    QTest::mouseRelease(canvas, Qt::LeftButton, {}, above);
+    EXPECT_TRUE(events.MouseUp.empty());
+
+    probe.setScrollValue(5);
+    QTest::mousePress(canvas, Qt::LeftButton, {}, RowPoint(*list, 0));
+    QTest::mouseRelease(canvas, Qt::LeftButton, {}, above);
+    EXPECT_EQ(list->text(), AnyValue("item 4"));
+    EXPECT_EQ(events.MouseUp.size(), 1u);
+}
+
+// Moves with a button held go to the widget pressed, wherever the pointer is.
+TEST(MouseMoves, OnlyTheButtonAndTheBareSurfaceTellTheHost)
+{
+    auto list = LoadedList();
+    list->resize(300, 40);
+    list->DropDownHeight(2000);
+    list->Mode(1);
+    AppendItems(*list, 5);
+    ListProbe probe(*list);
+    ListEvents events(*list);
+
+    QTest::mousePress(probe.canvasWidget(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseMove(probe.canvasWidget(), QPoint(9, 9));
+    QTest::mouseRelease(probe.canvasWidget(), Qt::LeftButton, {}, QPoint(9, 600));
+    QTest::mousePress(probe.textBox(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseMove(probe.textBox(), QPoint(9, 9));
+    QTest::mouseRelease(probe.textBox(), Qt::LeftButton, {}, QPoint(9, 9));
+    EXPECT_TRUE(events.MouseMove.empty());
+
+    QTest::mousePress(probe.button(), Qt::RightButton, {}, QPoint(2, 2));
+    QTest::mouseMove(probe.button(), QPoint(4, 6));
+    QTest::mouseRelease(probe.button(), Qt::RightButton, {}, QPoint(4, 6));
+    QTest::mousePress(list.get(), Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseMove(list.get(), QPoint(20, 30));
+    QTest::mouseRelease(list.get(), Qt::LeftButton, {}, QPoint(20, 30));
+    ASSERT_EQ(events.MouseMove.size(), 2u);
+    // Each in the coordinates of its own widget; the surface's start inside its border.
+    EXPECT_EQ(events.MouseMove[0].Button, 2);
+    EXPECT_FLOAT_EQ(events.MouseMove[0].X, float(4 * TwipsPerPixelX()));
+    EXPECT_FLOAT_EQ(events.MouseMove[0].Y, float(6 * TwipsPerPixelY()));
+    EXPECT_EQ(events.MouseMove[1].Button, 1);
+    EXPECT_FLOAT_EQ(events.MouseMove[1].X, float((20 - 2) * TwipsPerPixelX()));
+    EXPECT_FLOAT_EQ(events.MouseMove[1].Y, float((30 - 2) * TwipsPerPixelY()));
+}
+
+} // namespace

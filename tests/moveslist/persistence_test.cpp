@@ -1,0 +1,226 @@
+#include "list_probe.h"
+
+#include "moveslist/lbblock.h"
+#include "moveslist/listerror.h"
+#include "moveslist/moveslistblock.h"
+#include "moveslist/olecolor.h"
+
+#include <gtest/gtest.h>
+
+#include <QtEndian>
+
+namespace {
+
+// The log's block as the form stores it, byte for byte: the header, then
+// "_extentx" 10028, "_extenty" 503, "fontname" "MS Sans Serif", "fontsize" 8.25.
+const QByteArray MovesListVector =
+    QByteArray::fromHex("2d4c420900a400000093b20000a4000000"
+                        "030008000bf25747200000005f0065007800740065006e00740078002c270000"
+                        "030008000af25747200000005f0065007800740065006e0074007900f7010000"
+                        "08000800bb5756b33c00000066006f006e0074006e0061006d0065000d000000"
+                        "4d0053002000530061006e0073002000530065007200690066000000"
+                        "040008003bb9549384ffffff66006f006e007400730069007a00650000000441");
+
+constexpr int FirstEntry = 17;
+constexpr int FontNameEntry = FirstEntry + 32 + 32;
+constexpr int FontSizeEntry = FontNameEntry + 60;
+
+// The block with a number written over it at `at`.
+template <typename T> QByteArray With(QByteArray block, int at, T value)
+{
+    qToLittleEndian(value, block.data() + at);
+    return block;
+}
+
+int ReadError(const QByteArray& block)
+{
+    return ErrorCode([&] { lbblock::Read(block); });
+}
+
+std::unique_ptr<UserControl1> ListFrom(const PropertyBag& bag)
+{
+    return std::unique_ptr<UserControl1>(UserControl1::FromBlock(lbblock::Write(bag)));
+}
+
+QStringList Keys(const PropertyBag& bag)
+{
+    QStringList keys;
+    for (const PropertyEntry& entry : bag.entries())
+        keys << entry.key;
+    return keys;
+}
+
+TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
+{
+    const PropertyBag bag = lbblock::Read(MovesListVector);
+    ASSERT_EQ(bag.entries().size(), 4u);
+    const std::tuple<QString, PropertyType, AnyValue, uint32_t> expected[] = {
+        {"_extentx", PropertyType::Long, 10028, 0x4757F20Bu},
+        {"_extenty", PropertyType::Long, 503, 0x4757F20Au},
+        {"fontname", PropertyType::Text, "MS Sans Serif", 0xB35657BBu},
+        {"fontsize", PropertyType::Single, 8.25, 0x9354B93Bu},
+    };
+    for (size_t i = 0; i < 4; ++i) {
+        const PropertyEntry& e = bag.entries()[i];
+        EXPECT_EQ(std::make_tuple(e.key, e.type, e.value, e.hash), expected[i]) << i;
+    }
+    // Keys are found without regard to case.
+    EXPECT_EQ(bag.ReadProperty("FontName", {}), AnyValue("MS Sans Serif"));
+    EXPECT_EQ(MovesListBlock().toHex(), MovesListVector.toHex());
+    EXPECT_EQ(lbblock::Write(bag).toHex(), MovesListVector.toHex());
+}
+
+TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryStepsBackToItself)
+{
+    PropertyBag bag;
+    bag.WriteProperty("Small", PropertyType::Integer, -2, 0);
+    bag.WriteProperty("Colour", PropertyType::Long, int32_t(0x8000000F), 0);
+    bag.WriteProperty("Size", PropertyType::Single, 9.5, 0);
+    bag.WriteProperty("Ratio", PropertyType::Double, 1.0 / 3, 0);
+    bag.WriteProperty("Name", PropertyType::Text, QString::fromUtf8("Bö₤"), "0");
+    bag.WriteProperty("Blank", PropertyType::Text, "", "0");
+    bag.WriteProperty("Nothing", PropertyType::Empty, AnyValue(), 0);
+    bag.WriteObject("Data", QByteArray("\x01\x02\x03\x04\x05", 5));
+    const PropertyBag back = lbblock::Read(lbblock::Write(bag));
+    ASSERT_EQ(back.entries().size(), bag.entries().size());
+    for (size_t i = 0; i < bag.entries().size(); ++i) {
+        const PropertyEntry& wrote = bag.entries()[i];
+        const PropertyEntry& read = back.entries()[i];
+        EXPECT_EQ(std::make_tuple(read.key, read.type, read.value, read.objectData, read.hash),
+                  std::make_tuple(wrote.key.toLower(), wrote.type, wrote.value, wrote.objectData,
+                                  wrote.hash))
+            << wrote.key.toStdString();
+    }
+    EXPECT_TRUE(lbblock::Read(lbblock::Write(PropertyBag())).entries().empty());
+    PropertyBag lone;
+    lone.WriteProperty("Mode", PropertyType::Integer, 1, 0);
+    EXPECT_EQ(lbblock::Read(lbblock::Write(lone)).ReadProperty("mode", 0), AnyValue(1));
+}
+
+TEST(DamagedPropertyBlock, EveryCutIsRefusedAndNoControlIsMade)
+{
+    for (int length = 0; length < MovesListVector.size(); ++length)
+        EXPECT_EQ(ReadError(MovesListVector.left(length)), ListErrorCode::InvalidFileFormat)
+            << "cut at " << length;
+    EXPECT_EQ(ErrorCode([] { delete UserControl1::FromBlock(MovesListVector.left(100)); }),
+              ListErrorCode::InvalidFileFormat);
+}
+
+TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
+{
+    const QByteArray V = MovesListVector;
+    QByteArray signature = V;
+    signature[1] = 'X';
+    QByteArray unterminated = V;
+    unterminated[FontNameEntry + 28 + 4 + 26] = 'x';
+    PropertyBag padded;
+    padded.WriteProperty("ab", PropertyType::Integer, 3, 0); // 18 bytes, 2 of padding
+    QByteArray badPadding = lbblock::Write(padded);
+    ASSERT_EQ(ReadError(badPadding), 0);
+    badPadding[badPadding.size() - 1] = 1;
+    const QByteArray damaged[] = {
+        signature,
+        With<uint16_t>(V, 3, 8),      // block kind
+        With<uint32_t>(V, 5, 165),    // byte count
+        With<uint32_t>(V, 9, 0xB294), // marker
+        With<uint32_t>(V, 13, 160),   // second byte count
+        // Both counts agree but the block has bytes past its last entry.
+        With<uint32_t>(With<uint32_t>(V + QByteArray(4, '\0'), 5, 168), 13, 168),
+        With<uint16_t>(V, FirstEntry, 7),                     // unknown type
+        With<uint16_t>(V, FirstEntry + 2, 0),                 // no key
+        With<uint16_t>(V, FirstEntry + 2, 0x7FFF),            // key past the end
+        With<uint32_t>(V, FirstEntry + 8, 28),                // step inside itself
+        With<uint32_t>(V, FirstEntry + 8, 36),                // step past it
+        With<uint32_t>(V, FontSizeEntry + 8, uint32_t(-120)), // last step not to the first
+        With<uint32_t>(V, FontNameEntry + 28, 0xFFFFFFF0u),   // text longer than the block
+        With<uint32_t>(V, FontNameEntry + 28, 14),            // text runs into its zero
+        unterminated,
+        With<uint16_t>(V, FontSizeEntry, 5), // the last value longer than what is left
+        badPadding,
+    };
+    for (size_t i = 0; i < std::size(damaged); ++i)
+        EXPECT_EQ(ReadError(damaged[i]), ListErrorCode::InvalidFileFormat) << "damage " << i;
+}
+
+// Every stored property away from its default, through its setter.
+void SetNonDefaults(UserControl1& list)
+{
+    list.Enabled(true);
+    list.PictureList(std::make_shared<ImageList>());
+    QImage picture(3, 2, QImage::Format_RGB32);
+    picture.fill(qRgb(10, 20, 30));
+    list.PictureList()->Add(picture);
+    list.forecolor(0x00010203);
+    list.GridLines(true);
+    list.BorderStyle(0);
+    list.DropDownHeight(2000);
+    list.Mode(2);
+    list.RowHeight(300);
+    list.DrawStyle(2);
+    list.BackColor(0x00405060);
+    list.GridColor(0x00FFFFFF);
+    list.ToolTip(true);
+}
+
+QList<AnyValue> Readings(const UserControl1& list)
+{
+    return {int(list.Enabled()),   list.forecolor(), int(list.GridLines()), list.BorderStyle(),
+            list.DropDownHeight(), list.Mode(),      list.RowHeight(),      list.DrawStyle(),
+            list.BackColor(),      list.GridColor(), int(list.ToolTip())};
+}
+
+TEST(StoredProperties, WhatIsWrittenLoadsBackAndDefaultsAreLeftOut)
+{
+    auto list = LoadedList();
+    EXPECT_EQ(Readings(*list), QList<AnyValue>({0, olecolor::WindowText, 0, 1, 0, 0, 0, 0,
+                                                olecolor::ButtonFace, 0, 0}));
+    PropertyBag defaults;
+    list->UserControl_WriteProperties(defaults);
+    // The font is written though nothing reads it back.
+    EXPECT_EQ(Keys(defaults), QStringList({"fontname", "fontsize"}));
+
+    SetNonDefaults(*list);
+    PropertyBag bag;
+    list->UserControl_WriteProperties(bag);
+    EXPECT_EQ(Keys(bag),
+              QStringList({"enabled", "picturelist", "fontname", "fontsize", "forecolor",
+                           "gridlines", "borderstyle", "dropdownheight", "mode", "rowheight",
+                           "drawstyle", "backcolor", "gridcolor", "tooltip"}));
+    EXPECT_EQ(bag.ReadProperty("GridLines", 0), AnyValue(-1));
+    auto loaded = ListFrom(bag);
+    EXPECT_EQ(Readings(*loaded), Readings(*list));
+    ASSERT_NE(loaded->PictureList(), nullptr);
+    EXPECT_EQ(loaded->PictureList()->ListImages(1).Picture.convertToFormat(QImage::Format_RGB32),
+              list->PictureList()->ListImages(1).Picture);
+    EXPECT_EQ(loaded->state().GridLinesOn, 1);
+    // A new instance starts from zeros.
+    list->UserControl_InitProperties();
+    EXPECT_EQ(Readings(*list),
+              QList<AnyValue>({0, 0x00010203, 0, 0, 0, 0, 0, 0, 0x00405060, 0, 0}));
+}
+
+TEST(StoredProperties, SavedSettingsWaitUntilAssigned)
+{
+    PropertyBag bag;
+    bag.WriteProperty("Mode", PropertyType::Integer, 1, 0);
+    bag.WriteProperty("DropDownHeight", PropertyType::Integer, 2000, 0);
+    bag.WriteProperty("RowHeight", PropertyType::Integer, 400, 0);
+    bag.WriteProperty("BackColor", PropertyType::Long, 0x00FF0000, olecolor::ButtonFace);
+    bag.WriteProperty("ListCount", PropertyType::Empty, AnyValue(), 0);
+    auto list = ListFrom(bag);
+    EXPECT_EQ(std::make_tuple(list->Mode(), list->DropDownHeight(), list->RowHeight()),
+              std::make_tuple(int16_t(1), int16_t(2000), AnyValue(400)));
+    const ListState& st = list->state();
+    EXPECT_EQ(std::make_tuple(st.ComboMode, st.ViewHeight, st.RowTwips),
+              std::make_tuple(int16_t(0), int16_t(0), int32_t(0)));
+    EXPECT_TRUE(ListProbe(*list).canvasHidden() && ListProbe(*list).scrollBarHidden());
+    // A saved back colour is the surface's only.
+    EXPECT_EQ(list->BackColor(), 0x00FF0000);
+    EXPECT_EQ(list->canvas().pixel(0, 0), olecolor::ToQColor(olecolor::WindowBackground).rgb());
+    // An empty store travels as empty, not 0.
+    PropertyBag written;
+    list->UserControl_WriteProperties(written);
+    EXPECT_TRUE(written.find("ListCount")->value.isEmpty());
+}
+
+} // namespace
