@@ -1,0 +1,270 @@
+// The engine driven by any sequence of what a user can do in the window, nested inside
+// the pause of a computer's move too, with the bead invariants checked after each step
+// and every played move checked against the plain reading of the rules.
+#include "fuzzinput.h"
+#include "recording_screen.h"
+#include "reference_rules.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <numeric>
+#include <optional>
+#include <string>
+#include <tuple>
+
+namespace {
+
+// Enough for a few whole games; longer inputs only repeat themselves.
+constexpr int MaxActions = 300;
+
+class GameRun {
+public:
+    explicit GameRun(FuzzInput& in) : in(in)
+    {
+        screen.game = &game;
+        screen.onDoEvents = [this] { WhilePaused(); };
+        game.Form_Load();
+        Settle();
+    }
+
+    void Play()
+    {
+        for (int n = 0; n < MaxActions && !in.done(); ++n) {
+            const Board before = game.Beads;
+            Act(in.pick(12));
+            Check(before);
+        }
+    }
+
+private:
+    [[noreturn]] void Fail(const std::string& what) const
+    {
+        std::fprintf(stderr, "%s after action %d: board %s, start %d\n", what.c_str(), actions,
+                     FormatBoard(game.Beads).c_str(), game.StartBeadCount);
+        std::abort();
+    }
+
+    // The window lets a pot event through only from an enabled pot; the banks never are.
+    bool TakesEvents(int16_t s) const
+    {
+        if (IsBank(s))
+            return false;
+        return IsHumanPot(s) ? screen.potEnabled[s] : !game.GameFinished;
+    }
+
+    // What the window's Pots_MouseDown does before the release of a right button.
+    void RightPress()
+    {
+        if (game.Busy() || game.GameFinished)
+            return;
+        game.PreviewActive = true;
+        game.PreviewBeads = game.Beads;
+    }
+
+    bool Idle() const { return !game.Busy() && !game.GameFinished && !game.PreviewActive; }
+
+    void Act(int kind)
+    {
+        ++actions;
+        relaid = false;
+        expectPlay = -1;
+        expectForcedTurn = false;
+        switch (kind) {
+        case 0: {
+            const auto s = static_cast<int16_t>(in.pick(SlotCount));
+            if (!TakesEvents(s))
+                return;
+            if (Idle() && IsHumanPot(s) && game.Beads[s] > 0)
+                expectPlay = s;
+            return game.Pots_MouseUp(s, 1, 0, 0, 0);
+        }
+        case 1: {
+            const auto s = static_cast<int16_t>(in.pick(SlotCount));
+            if (!TakesEvents(s))
+                return;
+            RightPress();
+            return game.Pots_MouseUp(s, 2, 0, 0, 0);
+        }
+        case 2: {
+            // Slots the window does not have: the engine turns them away itself.
+            const int16_t bad[] = {-1, 14, 15, -32768, 32767, 100};
+            return game.Pots_MouseUp(bad[in.pick(6)], static_cast<int16_t>(in.pick(4)), 0, 0, 0);
+        }
+        case 3:
+            if (!screen.undoxEnabled || !screen.commandFrameEnabled)
+                return;
+            relaid = !game.Busy() && !game.GameFinished;
+            return game.Undox_Click();
+        case 4:
+            expectForcedTurn = Idle() && screen.commandFrameEnabled;
+            return game.TakeComp_Click();
+        case 5:
+            if (!game.HintActive)
+                hintFrom = game.Beads;
+            return game.GiveHint_MouseDown(1, 0, 0, 0);
+        case 6:
+            return game.GiveHint_MouseUp(1, 0, 0, 0);
+        case 7:
+            if (screen.commandFrameEnabled)
+                game.PauseAtMoves = !game.PauseAtMoves;
+            return;
+        case 8:
+            return game.Form_KeyDown(in.word(), static_cast<int16_t>(in.pick(8)));
+        case 9:
+            if (Idle() && IsHumanPot(game.KeyboardPot) && game.Beads[game.KeyboardPot] > 0)
+                expectPlay = game.KeyboardPot;
+            return game.Form_KeyDown(KeyEnter, 0);
+        case 10:
+            return MoveSlider(static_cast<int16_t>(2 + in.pick(98)));
+        default:
+            if (!screen.messEnabled)
+                return;
+            relaid = game.GameFinished;
+            return game.Mess_Click();
+        }
+    }
+
+    // The window's StartBeads_Change: the slider holds still under a running move.
+    void MoveSlider(int16_t value)
+    {
+        if (!screen.startBeadsEnabled || game.Busy())
+            return;
+        relaid = true;
+        // Nothing but a pot event locks the slider, so a game that forced turns
+        // ended can take a fresh board while it waits for its restart.
+        freshBoardAfterEnd = game.GameFinished;
+        game.StartBeadCount = value;
+        game.LayOutBoard(value);
+        for (int16_t s = 0; s < SlotCount; ++s)
+            screen.RefreshPot(s);
+    }
+
+    // Each turn of the pause's event loop runs one more action; only the click on the
+    // message bar lets the computer go on, and nothing else may touch the board.
+    void WhilePaused()
+    {
+        if (in.done() || paused || in.pick(4) == 0) {
+            game.Mess_Click();
+            return;
+        }
+        // The action inside must not disturb what the move around it expects.
+        const auto outer = std::tuple(expectPlay, expectForcedTurn, relaid, hintFrom);
+        paused = true;
+        const Board before = game.Beads;
+        Act(in.pick(12));
+        paused = false;
+        std::tie(expectPlay, expectForcedTurn, relaid, hintFrom) = outer;
+        // No bead check here: a capture is told between crediting the bank and clearing
+        // the two pots, so a pause can hold a board with the captured beads counted twice.
+        if (game.WaitingForClick != 0 && game.Beads != before)
+            Fail("an event inside the pause changed the board");
+    }
+
+    void CheckBeads() const
+    {
+        for (const int16_t count : game.Beads)
+            if (count < 0)
+                Fail("a negative count");
+        if (std::accumulate(game.Beads.begin(), game.Beads.end(), 0) != 12 * game.StartBeadCount)
+            Fail("beads came or went");
+    }
+
+    static bool RowEmpty(const Board& b, int first)
+    {
+        for (int s = first; s < first + 6; ++s)
+            if (b[s] > 0)
+                return false;
+        return true;
+    }
+
+    static ref::Ring ToRing(const Board& b)
+    {
+        ref::Ring r{};
+        std::copy(b.begin(), b.end(), r.begin());
+        return r;
+    }
+
+    void CheckAgainstRules(const Board& before) const
+    {
+        ref::Ring expected = ToRing(before);
+        if (expectPlay >= 0) {
+            const int last = ref::Sow(expected, expectPlay);
+            ref::Capture(expected, last, HumanBank);
+            if (ref::Live(expected) && last != HumanBank)
+                ref::ComputerTurn(expected);
+        } else if (expectForcedTurn) {
+            expected = ref::Turned(expected);
+            ref::ComputerTurn(expected);
+            expected = ref::Turned(expected);
+            if (ref::Live(expected))
+                ref::ComputerTurn(expected);
+        } else {
+            return;
+        }
+        if (expected != ToRing(game.Beads))
+            Fail("the move does not follow the rules from " + FormatBoard(before));
+    }
+
+    void Check(const Board& before)
+    {
+        CheckBeads();
+        if (game.WaitingForClick != 0)
+            Fail("a pause still waits after its handler returned");
+        if (game.HintActive) {
+            if (!game.BoardMirrored)
+                Fail("a held hint without the turned board");
+            return;
+        }
+        if (game.BoardMirrored)
+            Fail("the board stays turned");
+        if (hintFrom && game.Beads != *hintFrom)
+            Fail("the hint's release did not put the board back");
+        hintFrom.reset();
+        CheckAgainstRules(before);
+        CheckBanks();
+        const bool over = RowEmpty(game.Beads, 0) || RowEmpty(game.Beads, 7);
+        if (!game.GameFinished)
+            freshBoardAfterEnd = false;
+        if (game.GameFinished != over && !freshBoardAfterEnd)
+            Fail(game.GameFinished ? "a game over with beads on both rows"
+                                   : "a row is empty and the game goes on");
+        if (screen.messEnabled != game.GameFinished)
+            Fail("the message bar takes clicks outside a pause and a game's end");
+        if (game.RunningTotals[1] < 0 || game.RunningTotals[2] < 0)
+            Fail("a negative running total");
+    }
+
+    // Banks only grow; undo, a restart and the slider lay down a board of their own.
+    void CheckBanks()
+    {
+        if (!relaid && (game.Beads[HumanBank] < banks[0] || game.Beads[ComputerBank] < banks[1]))
+            Fail("a bank lost beads");
+        relaid = false;
+        banks = {game.Beads[HumanBank], game.Beads[ComputerBank]};
+    }
+
+    void Settle() { banks = {game.Beads[HumanBank], game.Beads[ComputerBank]}; }
+
+    FuzzInput& in;
+    RecordingScreen screen;
+    Game game{screen};
+    int actions = 0;
+    bool paused = false;
+    int expectPlay = -1;
+    bool expectForcedTurn = false;
+    bool relaid = false;
+    bool freshBoardAfterEnd = false;
+    std::optional<Board> hintFrom;
+    std::array<int16_t, 2> banks{};
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    FuzzInput in(data, size);
+    GameRun(in).Play();
+    return 0;
+}
