@@ -64,21 +64,6 @@ TEST_F(DropDown, TheHeadIsATextBoxWithTheButtonOverItsRightEnd)
     EXPECT_EQ(p.scrollBar()->geometry().top(), box.bottom() + 1);
 }
 
-TEST_F(DropDown, TheButtonShowsABlackArrowElevenByTen)
-{
-    const QImage arrow = probe().button()->pixmap().toImage();
-    QRect black;
-    for (int y = 0; y < arrow.height(); ++y)
-        for (int x = 0; x < arrow.width(); ++x) {
-            const QRgb pixel = arrow.pixel(x, y);
-            if (qAlpha(pixel) == 0)
-                continue;
-            ASSERT_EQ(pixel & 0xFFFFFF, 0u) << x << "," << y;
-            black |= QRect(x, y, 1, 1);
-        }
-    EXPECT_EQ(black, QRect(2, 3, 11, 10));
-}
-
 TEST_F(DropDown, TheButtonOpensTheListOverTheWidgetsBelowFromItemOne)
 {
     probe().setScrollValue(4);
@@ -93,19 +78,6 @@ TEST_F(DropDown, TheButtonOpensTheListOverTheWidgetsBelowFromItemOne)
     EXPECT_TRUE(probe().canvasWidget()->hasFocus());
     QWidget* atBelow = host.childAt(QPoint(100, 55));
     EXPECT_TRUE(atBelow == probe().canvasWidget() || list->isAncestorOf(atBelow));
-}
-
-TEST_F(DropDown, TheSecondReleaseClosesAndTakesTheMarkOffFirst)
-{
-    clickButton();
-    press(Qt::Key_Down);
-    ASSERT_TRUE(RowMarked(*list, 0));
-    clickButton();
-    EXPECT_FALSE(open());
-    EXPECT_EQ(list->height(), headHeight());
-    EXPECT_EQ(list->state().SelectedRow, -1);
-    clickButton();
-    EXPECT_FALSE(RowMarked(*list, 0));
 }
 
 TEST_F(DropDown, APickClosesTheListBeforeTheHostHearsOfIt)
@@ -126,7 +98,7 @@ TEST_F(DropDown, APickClosesTheListBeforeTheHostHearsOfIt)
     EXPECT_EQ(events.MouseUp.size(), 1u);
 }
 
-TEST_F(DropDown, ReturnCommitsAndClosesAndEscapeOnlyCloses)
+TEST_F(DropDown, ReturnCommitsAndClosesEscapeAndTheSecondReleaseOnlyClose)
 {
     clickButton();
     press(Qt::Key_Return);
@@ -134,9 +106,18 @@ TEST_F(DropDown, ReturnCommitsAndClosesAndEscapeOnlyCloses)
     EXPECT_EQ(list->text(), AnyValue("item 1"));
     clickButton();
     press(Qt::Key_Down);
-    press(Qt::Key_Down);
     press(Qt::Key_Escape);
     EXPECT_FALSE(open());
+    // The second release takes the mark off before it closes.
+    clickButton();
+    press(Qt::Key_Down);
+    ASSERT_TRUE(RowMarked(*list, 0));
+    clickButton();
+    EXPECT_FALSE(open());
+    EXPECT_EQ(list->height(), headHeight());
+    EXPECT_EQ(list->state().SelectedRow, -1);
+    clickButton();
+    EXPECT_FALSE(RowMarked(*list, 0));
     EXPECT_EQ(list->text(), AnyValue("item 1"));
 }
 
@@ -199,17 +180,6 @@ TEST(DropDownLayout, WithoutABorderTheOpenListIsExactlyHeadAndRows)
     AppendItems(*list, 5);
     QTest::mouseClick(ListProbe(*list).button(), Qt::LeftButton);
     EXPECT_EQ(list->height(), PixelsDown(list->state().ViewHeight + 252.0));
-}
-
-TEST(DropDownLayout, AShowingListSwitchedToModeOneStaysOpenAsItWas)
-{
-    auto list = WhiteList(5);
-    const int height = list->height();
-    list->Mode(1);
-    ListProbe probe(*list);
-    EXPECT_FALSE(probe.canvasHidden());
-    EXPECT_EQ(list->height(), height);
-    EXPECT_EQ(probe.canvasWidget()->y(), probe.textBox()->y() + probe.textBox()->height());
 }
 
 TEST(DropDownLayout, ModeZeroWithItemsPullsTheBarBackToTheTop)
