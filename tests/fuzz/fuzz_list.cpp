@@ -230,7 +230,11 @@ private:
         const Arg it = Index(in, Count(), false);
         const int column = in.pick(5);
         const QString text = column == 3 ? QStringLiteral("Font%1").arg(in.pick(3)) : Text(in, 6);
-        const Arg value = Index(in, 300, false);
+        Arg value = Index(in, 300, false);
+        // A colour is a plain 32-bit number: a text that is none arrives as 0.
+        const int32_t colour = value.number ? int32_t(*value.number) : 0;
+        if (column == 4)
+            value.number = colour;
         Log(QStringLiteral("Update column %1 of %2: \"%3\" %4")
                 .arg(column)
                 .arg(it.value.toText(), text, value.value.toText()));
@@ -245,7 +249,7 @@ private:
             case 3:
                 return list.UpdateFont(it.value, text);
             default:
-                return list.UpdateForeColor(it.value, value.number ? int32_t(*value.number) : 0);
+                return list.UpdateForeColor(it.value, colour);
             }
         });
     }
