@@ -15,16 +15,22 @@ std::vector<int> Codes(const std::vector<ListEvents::Key>& keys)
     return codes;
 }
 
-class KeyWalk : public ::testing::Test {
+class ListInput : public ::testing::Test {
 protected:
     void press(Qt::Key key) { QTest::keyClick(probe.canvasWidget(), key); }
-
+    void click(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(probe.canvasWidget(), button, keys, RowPoint(*list, row));
+    }
     std::vector<int> keyDowns() const { return Codes(events.KeyDown); }
 
     std::unique_ptr<UserControl1> list = WhiteList(20);
     ListProbe probe{*list};
     ListEvents events{*list};
 };
+
+class KeyWalk : public ListInput {};
+class MousePick : public ListInput {};
 
 TEST_F(KeyWalk, TheFirstPressShowsTheMarkAndEachFurtherStepScrollsOneItemUnderIt)
 {
@@ -90,7 +96,7 @@ TEST_F(KeyWalk, ReturnCommitsTheTopItemWhereverTheMarkIs)
 {
     press(Qt::Key_Down);
     press(Qt::Key_Down);
-    QTest::mouseClick(probe.canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 3));
+    click(3);
     ASSERT_EQ(list->text(), AnyValue("item 5"));
     press(Qt::Key_Return);
     EXPECT_EQ(list->text(), AnyValue("item 2"));
@@ -109,7 +115,7 @@ TEST_F(KeyWalk, ReturnCommitsTheTopItemWhereverTheMarkIs)
 
 TEST_F(KeyWalk, AfterAMousePickLowerDownTheMarkJumpsToTheTop)
 {
-    QTest::mouseClick(probe.canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 4));
+    click(4);
     press(Qt::Key_Down);
     EXPECT_EQ(probe.scrollValue(), 1);
     EXPECT_EQ(list->state().SelectedRow, 0);
@@ -176,18 +182,6 @@ TEST(KeysInTheHead, TypingStaysInTheTextBoxAndOnlyKeyDownReachesTheHost)
     EXPECT_TRUE(events.KeyPress.empty());
     EXPECT_TRUE(events.KeyUp.empty());
 }
-
-class MousePick : public ::testing::Test {
-protected:
-    void click(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
-    {
-        QTest::mouseClick(probe.canvasWidget(), button, keys, RowPoint(*list, row));
-    }
-
-    std::unique_ptr<UserControl1> list = WhiteList(20);
-    ListProbe probe{*list};
-    ListEvents events{*list};
-};
 
 // The right button picks as the left does, and Enabled gates nothing.
 TEST_F(MousePick, AReleaseOnARowChoosesItsItemMarksItAndTellsTheHostLast)
@@ -276,29 +270,25 @@ TEST(MouseMoves, OnlyTheButtonAndTheBareSurfaceTellTheHost)
     AppendItems(*list, 5);
     ListProbe probe(*list);
     ListEvents events(*list);
-
-    QTest::mousePress(probe.canvasWidget(), Qt::LeftButton, {}, QPoint(5, 5));
-    QTest::mouseMove(probe.canvasWidget(), QPoint(9, 9));
-    QTest::mouseRelease(probe.canvasWidget(), Qt::LeftButton, {}, QPoint(9, 600));
-    QTest::mousePress(probe.textBox(), Qt::LeftButton, {}, QPoint(5, 5));
-    QTest::mouseMove(probe.textBox(), QPoint(9, 9));
-    QTest::mouseRelease(probe.textBox(), Qt::LeftButton, {}, QPoint(9, 9));
+    const auto drag = [](QWidget* widget, Qt::MouseButton button, QPoint to) {
+        QTest::mousePress(widget, button, {}, QPoint(2, 2));
+        QTest::mouseMove(widget, to);
+        QTest::mouseRelease(widget, button, {}, to);
+    };
+    drag(probe.canvasWidget(), Qt::LeftButton, QPoint(9, 600));
+    drag(probe.textBox(), Qt::LeftButton, QPoint(9, 9));
     EXPECT_TRUE(events.MouseMove.empty());
-
-    QTest::mousePress(probe.button(), Qt::RightButton, {}, QPoint(2, 2));
-    QTest::mouseMove(probe.button(), QPoint(4, 6));
-    QTest::mouseRelease(probe.button(), Qt::RightButton, {}, QPoint(4, 6));
-    QTest::mousePress(list.get(), Qt::LeftButton, {}, QPoint(2, 2));
-    QTest::mouseMove(list.get(), QPoint(20, 30));
-    QTest::mouseRelease(list.get(), Qt::LeftButton, {}, QPoint(20, 30));
+    drag(probe.button(), Qt::RightButton, QPoint(4, 6));
+    drag(list.get(), Qt::LeftButton, QPoint(20, 30));
     ASSERT_EQ(events.MouseMove.size(), 2u);
     // Each in the coordinates of its own widget; the surface's start inside its border.
-    EXPECT_EQ(events.MouseMove[0].Button, 2);
-    EXPECT_FLOAT_EQ(events.MouseMove[0].X, float(4 * TwipsPerPixelX()));
-    EXPECT_FLOAT_EQ(events.MouseMove[0].Y, float(6 * TwipsPerPixelY()));
-    EXPECT_EQ(events.MouseMove[1].Button, 1);
-    EXPECT_FLOAT_EQ(events.MouseMove[1].X, float((20 - 2) * TwipsPerPixelX()));
-    EXPECT_FLOAT_EQ(events.MouseMove[1].Y, float((30 - 2) * TwipsPerPixelY()));
+    const ListEvents::Mouse& button = events.MouseMove[0];
+    const ListEvents::Mouse& surface = events.MouseMove[1];
+    EXPECT_EQ(std::make_pair(button.Button, surface.Button), std::make_pair(2, 1));
+    EXPECT_FLOAT_EQ(button.X, float(4 * TwipsPerPixelX()));
+    EXPECT_FLOAT_EQ(button.Y, float(6 * TwipsPerPixelY()));
+    EXPECT_FLOAT_EQ(surface.X, float((20 - 2) * TwipsPerPixelX()));
+    EXPECT_FLOAT_EQ(surface.Y, float((30 - 2) * TwipsPerPixelY()));
 }
 
 } // namespace
