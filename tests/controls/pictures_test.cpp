@@ -9,14 +9,12 @@
 
 namespace {
 
-QString twiceAsLarge(QString path)
+QImage at(const QString& path, int scale)
 {
-    return path.replace(".png", "@2x.png");
-}
-
-QImage at(const QString& path)
-{
-    return QImage(path).convertToFormat(QImage::Format_ARGB32);
+    QString file = path;
+    if (scale == 2)
+        file.replace(".png", "@2x.png");
+    return QImage(file).convertToFormat(QImage::Format_ARGB32);
 }
 
 // The pixel of a disc at an angle on the screen (0 right, 90 down) and a distance
@@ -27,26 +25,6 @@ QColor discAt(const QImage& image, double degrees, double distance)
     return image.pixelColor(static_cast<int>((16 + distance * std::cos(radians)) * scale),
                             static_cast<int>((16 + distance * std::sin(radians)) * scale));
 }
-
-struct Disc {
-    QString raised, sunken;
-    QColor body, light, dark, darkest;
-};
-
-const Disc Discs[] = {
-    {Pictures::DiscGreenRaised,
-     Pictures::DiscGreenSunken,
-     {0, 187, 0},
-     {0, 255, 0},
-     {0, 136, 0},
-     {0, 85, 0}},
-    {Pictures::DiscRedRaised,
-     Pictures::DiscRedSunken,
-     {255, 0, 0},
-     {255, 0, 51},
-     {170, 0, 0},
-     {119, 0, 0}},
-};
 
 } // namespace
 
@@ -60,76 +38,64 @@ TEST(Pictures, EachIsLinkedInAtOneAndTwoTimesWithAClearSurround)
         {Pictures::ArrowGreen, 32},
     };
     for (const auto& [path, side] : all) {
-        SCOPED_TRACE(path.toStdString());
-        ASSERT_TRUE(QFile::exists(path));
         for (int scale : {1, 2}) {
-            const QImage image = at(scale == 1 ? path : twiceAsLarge(path));
+            SCOPED_TRACE(path.toStdString() + " at " + std::to_string(scale));
+            const QImage image = at(path, scale);
             ASSERT_EQ(image.size(), QSize(side, side) * scale);
             const int end = image.width() - 1;
             int clear = 0;
             for (QPoint corner : {QPoint(0, 0), QPoint(end, 0), QPoint(0, end), QPoint(end, end)})
                 clear += image.pixelColor(corner).alpha() < 64;
-            // An arrow's head may reach into one corner.
-            EXPECT_GE(clear, 3);
+            EXPECT_GE(clear, 3) << "an arrow's head may reach into one corner";
         }
     }
+    EXPECT_EQ(Pictures::load(Pictures::Hand, 2.0).size(), QSize(64, 64));
+    EXPECT_EQ(Pictures::load(Pictures::Hand, 2.0).deviceIndependentSize(), QSizeF(32, 32));
+    EXPECT_EQ(Pictures::load(Pictures::Hand, 1.0).size(), QSize(32, 32));
 }
 
-TEST(Pictures, LoadPicksTheDrawingForTheRatio)
+// A raised disc is lit from the upper left, a sunken one from the lower right; inside
+// the black rim there are only the disc's four colours.
+TEST(Pictures, DiscsHoldTheirOwnColoursLitFromTheirOwnSide)
 {
-    const QPixmap sharp = Pictures::load(Pictures::DiscGreenRaised, 2.0);
-    EXPECT_EQ(sharp.size(), QSize(64, 64));
-    EXPECT_EQ(sharp.deviceIndependentSize(), QSizeF(32, 32));
-    const QPixmap plain = Pictures::load(Pictures::DiscGreenRaised, 1.0);
-    EXPECT_EQ(plain.size(), QSize(32, 32));
-    EXPECT_EQ(plain.devicePixelRatio(), 1.0);
-    EXPECT_TRUE(Pictures::load(":/assets/no_such_picture.png", 2.0).isNull());
-}
-
-TEST(Pictures, DiscsHoldOnlyTheirOwnColoursInsideABlackRim)
-{
-    for (const Disc& disc : Discs) {
-        for (const QString& path :
-             {disc.raised, disc.sunken, twiceAsLarge(disc.raised), twiceAsLarge(disc.sunken)}) {
-            SCOPED_TRACE(path.toStdString());
-            const QImage image = at(path);
-            int strays = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    const QColor c = image.pixelColor(x, y);
-                    const QRgb rgb = c.rgb();
-                    // Only the rim's outer edge is smoothed, and it is black.
-                    if (c.alpha() == 0 || rgb == qRgb(0, 0, 0))
-                        continue;
-                    strays +=
-                        c.alpha() != 255 || (rgb != disc.body.rgb() && rgb != disc.light.rgb() &&
-                                             rgb != disc.dark.rgb() && rgb != disc.darkest.rgb());
-                }
-            }
-            EXPECT_EQ(strays, 0);
-            EXPECT_EQ(discAt(image, 0, 0), disc.body);
-            for (double degrees : {0, 90, 180, 270})
-                EXPECT_EQ(discAt(image, degrees, 14.5), QColor(Qt::black)) << degrees;
-        }
-    }
-}
-
-TEST(Pictures, RaisedDiscsAreLitFromTheUpperLeftAndSunkenOnesTheOtherWay)
-{
-    const double upperLeft = 225, lowerRight = 45;
-    for (const Disc& disc : Discs) {
+    struct Disc {
+        QString raised, sunken;
+        QRgb body, light, dark, darkest;
+    };
+    const Disc discs[] = {
+        {Pictures::DiscGreenRaised, Pictures::DiscGreenSunken, qRgb(0, 187, 0), qRgb(0, 255, 0),
+         qRgb(0, 136, 0), qRgb(0, 85, 0)},
+        {Pictures::DiscRedRaised, Pictures::DiscRedSunken, qRgb(255, 0, 0), qRgb(255, 0, 51),
+         qRgb(170, 0, 0), qRgb(119, 0, 0)},
+    };
+    for (const Disc& disc : discs) {
         for (int scale : {1, 2}) {
-            SCOPED_TRACE(disc.raised.toStdString() + " at " + std::to_string(scale));
-            const QImage raised = at(scale == 1 ? disc.raised : twiceAsLarge(disc.raised));
-            const QImage sunken = at(scale == 1 ? disc.sunken : twiceAsLarge(disc.sunken));
-            // Just inside the rim, where the edges are widest: the outer dark tone
-            // along the rim, the other inside it.
-            EXPECT_EQ(discAt(raised, upperLeft, 12.5), disc.light);
-            EXPECT_EQ(discAt(raised, lowerRight, 13.2), disc.darkest);
-            EXPECT_EQ(discAt(raised, lowerRight, 11.8), disc.dark);
-            EXPECT_EQ(discAt(sunken, lowerRight, 12.5), disc.light);
-            EXPECT_EQ(discAt(sunken, upperLeft, 13.2), disc.darkest);
-            EXPECT_EQ(discAt(sunken, upperLeft, 11.8), disc.dark);
+            for (bool raised : {true, false}) {
+                const QString path = raised ? disc.raised : disc.sunken;
+                SCOPED_TRACE(path.toStdString() + " at " + std::to_string(scale));
+                const QImage image = at(path, scale);
+                int strays = 0;
+                for (int y = 0; y < image.height(); ++y) {
+                    for (int x = 0; x < image.width(); ++x) {
+                        const QColor c = image.pixelColor(x, y);
+                        const QRgb rgb = c.rgb();
+                        // Only the rim's outer edge is smoothed, and it is black.
+                        if (c.alpha() == 0 || rgb == qRgb(0, 0, 0))
+                            continue;
+                        strays += c.alpha() != 255 || (rgb != disc.body && rgb != disc.light &&
+                                                       rgb != disc.dark && rgb != disc.darkest);
+                    }
+                }
+                EXPECT_EQ(strays, 0);
+                EXPECT_EQ(discAt(image, 0, 0).rgb(), disc.body);
+                EXPECT_EQ(discAt(image, 90, 14.5).rgb(), qRgb(0, 0, 0));
+                // Just inside the rim, where the edges are widest: the outer dark tone
+                // along the rim, the other inside it.
+                const double lit = raised ? 225 : 45, shaded = raised ? 45 : 225;
+                EXPECT_EQ(discAt(image, lit, 12.5).rgb(), disc.light);
+                EXPECT_EQ(discAt(image, shaded, 13.2).rgb(), disc.darkest);
+                EXPECT_EQ(discAt(image, shaded, 11.8).rgb(), disc.dark);
+            }
         }
     }
 }

@@ -52,11 +52,14 @@ int blueAcrossTheMiddle(const QImage& image)
 
 } // namespace
 
-TEST(QuilletFace, EachEdgeIsOnePixelOfItsOwnColourAtRatioOneAndTwo)
+// Raised, each edge is one pixel of its own colour at ratio 1 and 2. Held down, the
+// edges change places; turned off with the button still down, the face comes back up.
+TEST(QuilletFace, EdgesStandRaisedAndSinkWhileHeld)
 {
-    Pot pot;
+    QWidget surface;
+    auto* pot = new Pot(&surface);
     for (int ratio : {1, 2}) {
-        const QImage image = rendered(pot, ratio);
+        const QImage image = rendered(*pot, ratio);
         const int w = image.width(), h = image.height();
         EXPECT_EQ(image.pixelColor(w / 2, ratio - 1), TopEdge);
         EXPECT_EQ(image.pixelColor(ratio - 1, h / 2), LeftEdge);
@@ -65,115 +68,74 @@ TEST(QuilletFace, EachEdgeIsOnePixelOfItsOwnColourAtRatioOneAndTwo)
         EXPECT_EQ(image.pixelColor(w / 2, ratio), Face);
         EXPECT_EQ(image.pixelColor(w - 1 - ratio, h - 1 - ratio), Face);
     }
-}
-
-TEST(QuilletFace, HeldDownItSinksAndTurnedOffItComesBackRaised)
-{
-    QWidget surface;
-    auto* pot = new Pot(&surface);
     surface.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&surface));
-
     QTest::mousePress(pot, Qt::LeftButton);
-    EXPECT_EQ(rendered(*pot).pixelColor(pot->width() / 2, 0), BottomEdge);
+    const QImage held = rendered(*pot);
+    EXPECT_EQ(held.pixelColor(pot->width() / 2, 0), BottomEdge);
+    EXPECT_EQ(held.pixelColor(0, pot->height() / 2), RightEdge);
     pot->enabled(false);
     pot->enabled(true);
     EXPECT_EQ(rendered(*pot).pixelColor(pot->width() / 2, 0), TopEdge);
     QTest::mouseRelease(pot, Qt::LeftButton);
 }
 
-TEST(QuilletFace, CaptionShowsAtOnceTagLeavesTheFaceAloneAndPicturesAreShared)
+// The Tag is the caller's and leaves the face alone. A plain button greys its caption
+// while off; a bank keeps its count readable.
+TEST(QuilletFace, CaptionShowsAtOnceAndGreysOnlyOnAPlainButton)
 {
-    Pot pot, bank;
+    Pot bank;
     bank.picture(framedInClear(32, 2));
-    pot.picture(bank.picture());
-    EXPECT_EQ(pot.picture().cacheKey(), bank.picture().cacheKey());
-
-    const QImage bare = rendered(pot);
-    pot.forecolor(Qt::black);
-    pot.caption("7");
-    const QImage numbered = rendered(pot);
-    pot.Tag("12");
-    EXPECT_EQ(rendered(pot), numbered);
-    EXPECT_EQ(pot.Tag(), "12");
-    pot.caption("");
-
+    const QImage bare = rendered(bank);
+    bank.forecolor(Qt::black);
+    bank.caption("48");
+    const QImage numbered = rendered(bank);
     EXPECT_NE(numbered, bare);
-    EXPECT_EQ(rendered(pot), bare);
-}
+    bank.Tag("12");
+    EXPECT_EQ(bank.Tag(), "12");
+    bank.enabled(false);
+    EXPECT_EQ(rendered(bank), numbered);
+    bank.caption("");
+    EXPECT_EQ(rendered(bank), bare);
 
-TEST(QuilletFace, PictureSitsCentredWithoutSmoothingAtRatioTwo)
-{
-    // One device pixel in each colour by turns: any smoothing would mix them.
-    QImage checks(64, 64, QImage::Format_ARGB32);
-    for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 64; ++x)
-            checks.setPixelColor(x, y, (x + y) % 2 ? Qt::black : Qt::yellow);
-    QPixmap picture = QPixmap::fromImage(checks);
-    picture.setDevicePixelRatio(2.0);
-    Pot pot;
-    pot.picture(picture);
-    const QImage image = rendered(pot, 2.0);
-
-    const int offset = 2 * ((pot.width() - 32) / 2);
-    int mismatches = 0;
-    for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 64; ++x)
-            mismatches += image.pixelColor(offset + x, offset + y) != checks.pixelColor(x, y);
-    EXPECT_EQ(mismatches, 0);
-}
-
-TEST(QuilletFace, OnlyAPictureWhoseVisiblePartIsTooLargeShrinks)
-{
-    Pot pot;
-    pot.picture(framedInClear(32, 6));
-    EXPECT_EQ(blueAcrossTheMiddle(rendered(pot)), 20);
-
-    // The hand: 32 pixels on a face 25 wide, its clear margin hanging over the edges.
-    Quillet hand;
-    hand.resize(25, 37);
-    hand.picture(framedInClear(32, 6));
-    EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
-
-    pot.picture(framedInClear(64, 0));
-    const int across = blueAcrossTheMiddle(rendered(pot));
-    EXPECT_GE(across, pot.width() - 2);
-    EXPECT_LE(across, pot.width());
-}
-
-TEST(QuilletFace, PlainButtonGreysItsCaptionWhileOffButABankKeepsItsCount)
-{
     Quillet button;
     button.resize(120, 23);
     button.caption("Undo last move");
     const QImage on = rendered(button);
     button.enabled(false);
     EXPECT_NE(rendered(button), on);
-
-    Pot bank;
-    bank.picture(framedInClear(32, 2));
-    bank.forecolor(Qt::white);
-    bank.caption("48");
-    const QImage enabledBank = rendered(bank);
-    bank.enabled(false);
-    EXPECT_EQ(rendered(bank), enabledBank);
 }
 
+// A picture read from one face can be set on another. The hand, 32 pixels on a face 25
+// wide, lets its clear margin hang over the edges; only a larger visible part shrinks.
+TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
+{
+    Quillet hand, pot;
+    hand.resize(25, 37);
+    pot.picture(framedInClear(32, 6));
+    hand.picture(pot.picture());
+    EXPECT_EQ(hand.picture().cacheKey(), pot.picture().cacheKey());
+    EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
+
+    pot.Move(0, 0, 555, 555);
+    pot.picture(framedInClear(64, 0));
+    const int across = blueAcrossTheMiddle(rendered(pot));
+    EXPECT_GE(across, pot.width() - 2);
+    EXPECT_LE(across, pot.width());
+}
+
+// The hand goes where a letter stands, in twips that need not fall on a pixel; moved by
+// pixels behind its back, it tells the twips of those pixels.
 TEST(QuilletPlace, TwipsInAndTheSameTwipsOut)
 {
-    QWidget surface;
-    Pot pot(&surface);
+    Pot pot;
     pot.Move(1530, 1785, 555, 555);
     EXPECT_EQ(pot.geometry(), Twips::toPixels(1530, 1785, 555, 555));
-
-    // The hand goes where a letter stands, in twips that need not fall on a pixel.
     pot.Left(1642);
     pot.Top(1075);
     EXPECT_FLOAT_EQ(pot.Left(), 1642);
     EXPECT_FLOAT_EQ(pot.Top(), 1075);
     EXPECT_EQ(pot.pos(), QPoint(Twips::toPixels(1642), Twips::toPixels(1075)));
-
-    // Moved by pixels behind its back, it tells the twips of those pixels.
     pot.move(10, 20);
     EXPECT_FLOAT_EQ(pot.Left(), Twips::fromPixels(10));
     EXPECT_FLOAT_EQ(pot.Top(), Twips::fromPixels(20));

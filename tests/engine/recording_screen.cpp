@@ -1,5 +1,6 @@
 #include "recording_screen.h"
 
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 
@@ -95,9 +96,7 @@ std::vector<std::string> RecordingScreen::CallsStartingWith(const std::string& p
 Board ParseBoard(const std::string& text)
 {
     std::string spaced = text;
-    for (char& c : spaced)
-        if (c == '|')
-            c = ' ';
+    std::replace(spaced.begin(), spaced.end(), '|', ' ');
     std::istringstream in(spaced);
     Board board{};
     for (auto& slot : board)
@@ -108,16 +107,8 @@ Board ParseBoard(const std::string& text)
 
 std::string FormatBoard(const Board& board)
 {
-    std::string out;
-    for (int s = 0; s < SlotCount; ++s) {
-        if (s == 6)
-            out += "|" + std::to_string(board[s]) + "|";
-        else if (s == 13)
-            out += "|" + std::to_string(board[s]);
-        else
-            out += std::to_string(board[s]);
-        if (s != 13)
-            out += ' ';
-    }
-    return out;
+    std::ostringstream out;
+    for (int s = 0; s < SlotCount; ++s)
+        out << (IsBank(s) ? "|" : "") << board[s] << (s == HumanBank ? "| " : s < 13 ? " " : "");
+    return out.str();
 }

@@ -3,6 +3,7 @@
 // A second, deliberately plain reading of the rules, one bead at a time, in ints.
 // The engine is checked against it; it shares no code with the engine.
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -37,12 +38,10 @@ inline int Capture(Ring& b, int last, int bank)
 
 inline bool Live(const Ring& b)
 {
-    bool low = false, high = false;
-    for (int s = 0; s < 6; ++s)
-        low = low || b[s] > 0;
-    for (int s = 7; s < 13; ++s)
-        high = high || b[s] > 0;
-    return low && high;
+    const auto holds = [&b](int from) {
+        return std::any_of(b.begin() + from, b.begin() + from + 6, [](int n) { return n > 0; });
+    };
+    return holds(0) && holds(7);
 }
 
 inline int Score(Ring b, int pot)
