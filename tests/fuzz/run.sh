@@ -36,7 +36,7 @@ for target in "${targets[@]}"; do
         echo "$target FOUND A FAULT (exit $result); see $log"
         grep -m1 -A3 "Test unit written" "$log"
     fi
-    echo "$target: $runs executions in ${elapsed%.*} s"
+    echo "$target: $runs executions in $elapsed s"
     table+=$(awk -v t="$target" -v r="$runs" -v s="$elapsed" \
         'BEGIN { printf "%-14s %12d %8.0f %10.0f", t, r, s, r / s }')$'\n'
 done
