@@ -17,6 +17,13 @@ namespace {
 
 constexpr double TwipsPerInch = 1440.0;
 
+// A rectangle of widget pixels as the pixels of an image at the given ratio.
+QRectF DeviceRect(const QRect& logical, qreal ratio)
+{
+    return QRectF(logical.x() * ratio, logical.y() * ratio, logical.width() * ratio,
+                  logical.height() * ratio);
+}
+
 // A pixel under a draw mode; only the colour bits take part.
 QRgb UnderMode(int16_t drawMode, QRgb pen, QRgb destination)
 {
@@ -62,7 +69,7 @@ void PictureBox::Cls()
     syncImage();
     canvas.fill(olecolor::ToQColor(backColour));
     currentY = 0;
-    drawn(canvas.rect());
+    drawn(logicalRect());
 }
 
 void PictureBox::Print(const QString& text)
@@ -75,7 +82,7 @@ void PictureBox::Print(const QString& text)
     const int top = PixelY(currentY);
     painter.drawStaticText(QPoint(0, top), laidOut.text);
     currentY += TextHeight(text);
-    drawn(QRect(0, top, canvas.width(), drawMetrics().height()));
+    drawn(QRect(0, top, width(), drawMetrics().height()));
 }
 
 double PictureBox::TextWidth(const QString& text) const
@@ -132,27 +139,42 @@ void PictureBox::FilledBox(QPointF from, QPointF to, int32_t colour)
 {
     syncImage();
     const QRgb pen = olecolor::ToQColor(colour).rgb();
-    const QRect area = PixelRect(from, to).intersected(canvas.rect());
+    const QRect area = PixelRect(from, to).intersected(logicalRect());
     for (int y = area.top(); y <= area.bottom(); ++y)
         horizontalLine(y, area.left(), area.right(), pen);
     drawn(area);
 }
 
+// Coordinates are the widget's pixels; on a high-density screen each one covers a
+// block of the canvas's own, so lines stay as thick as designed and text stays sharp.
 void PictureBox::horizontalLine(int y, int left, int right, QRgb pen)
 {
-    if (y < 0 || y >= canvas.height())
+    const QRect logical = logicalRect();
+    if (y < 0 || y >= logical.height())
         return;
-    auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(y));
-    for (int x = std::max(left, 0); x <= std::min(right, canvas.width() - 1); ++x)
-        line[x] = UnderMode(drawMode, pen, line[x]);
+    left = std::max(left, 0);
+    right = std::min(right, logical.width() - 1);
+    if (left > right)
+        return;
+    const qreal ratio = canvas.devicePixelRatio();
+    const auto device = [ratio](int at) { return static_cast<int>(std::lround(at * ratio)); };
+    const int lastRow = std::min(device(y + 1), canvas.height()) - 1;
+    const int lastColumn = std::min(device(right + 1), canvas.width()) - 1;
+    for (int row = device(y); row <= lastRow; ++row) {
+        auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(row));
+        for (int x = device(left); x <= lastColumn; ++x)
+            line[x] = UnderMode(drawMode, pen, line[x]);
+    }
 }
 
 void PictureBox::plot(QPoint at, QRgb pen)
 {
-    if (!canvas.rect().contains(at))
-        return;
-    auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(at.y()));
-    line[at.x()] = UnderMode(drawMode, pen, line[at.x()]);
+    horizontalLine(at.y(), at.x(), at.x(), pen);
+}
+
+QRect PictureBox::logicalRect() const
+{
+    return QRect(QPoint(0, 0), canvas.deviceIndependentSize().toSize());
 }
 
 void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPointF sourceAt,
@@ -161,14 +183,15 @@ void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPo
     syncImage();
     const QRect from =
         PixelRect(sourceAt, sourceAt + QPointF(sourceSize.width(), sourceSize.height()));
-    if (source.isNull() || !source.rect().contains(from))
+    const QRect sourceRect(QPoint(0, 0), source.deviceIndependentSize().toSize());
+    if (source.isNull() || !sourceRect.contains(from))
         throw ListError(ListErrorCode::InvalidPicture,
                         QStringLiteral("Invalid picture: the picture has no such part"));
     const QRect to = PixelRect(at, at + QPointF(size.width(), size.height()));
     QPainter painter(&canvas);
     painter.setCompositionMode(rasterCode == SourceAnd ? QPainter::RasterOp_SourceAndDestination
                                                        : QPainter::CompositionMode_Source);
-    painter.drawImage(to, source, from);
+    painter.drawImage(QRectF(to), source, DeviceRect(from, source.devicePixelRatio()));
     drawn(to);
 }
 
@@ -179,13 +202,14 @@ void PictureBox::BitBlt(int x, int y, int width, int height, const PictureBox& s
     const QImage& from = source.image();
     // Only what the source holds is copied; the part of the block past its edge
     // stays as it was.
-    const QRect block = QRect(sourceX, sourceY, width, height).intersected(from.rect());
+    const QRect block = QRect(sourceX, sourceY, width, height).intersected(source.logicalRect());
     if (block.isEmpty())
         return;
     QPainter painter(&canvas);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const QPoint target(x + block.x() - sourceX, y + block.y() - sourceY);
-    painter.drawImage(target, from, block);
+    painter.drawImage(QRectF(QRect(target, block.size())), from,
+                      DeviceRect(block, from.devicePixelRatio()));
     drawn(QRect(target, block.size()));
 }
 
@@ -217,7 +241,8 @@ const PictureBox::LaidOutText& PictureBox::layOut(const QString& text) const
     QStaticText staticText(text);
     staticText.setTextFormat(Qt::PlainText);
     staticText.setPerformanceHint(QStaticText::AggressiveCaching);
-    staticText.prepare(QTransform(), drawFont);
+    const qreal ratio = canvas.devicePixelRatio();
+    staticText.prepare(QTransform::fromScale(ratio, ratio), drawFont);
     return *laidOutTexts.insert(key, {staticText, drawMetrics().horizontalAdvance(text)});
 }
 
@@ -247,7 +272,8 @@ void PictureBox::paintEvent(QPaintEvent* event)
 {
     syncImage();
     QPainter painter(this);
-    painter.drawImage(event->rect(), canvas, event->rect());
+    painter.drawImage(QRectF(event->rect()), canvas,
+                      DeviceRect(event->rect(), canvas.devicePixelRatio()));
 }
 
 // The surfaces have the control's font: a font its host gives it reaches them too.
@@ -269,18 +295,26 @@ void PictureBox::resizeEvent(QResizeEvent* event)
 
 void PictureBox::syncImage() const
 {
-    const QSize wanted = size().expandedTo(QSize(1, 1));
-    if (canvas.size() == wanted)
+    // The canvas has the screen's own pixels, so that text is drawn sharp on a
+    // high-density screen rather than scaled up.
+    const qreal ratio = devicePixelRatioF();
+    const QSize logical = size().expandedTo(QSize(1, 1));
+    const QSize wanted(static_cast<int>(std::lround(logical.width() * ratio)),
+                       static_cast<int>(std::lround(logical.height() * ratio)));
+    if (canvas.size() == wanted && canvas.devicePixelRatio() == ratio)
         return;
     QImage grown(wanted, QImage::Format_RGB32);
+    grown.setDevicePixelRatio(ratio);
     grown.setDotsPerMeterX(std::lround(screen()->logicalDotsPerInchX() / 0.0254));
     grown.setDotsPerMeterY(std::lround(screen()->logicalDotsPerInchY() / 0.0254));
     grown.fill(olecolor::ToQColor(backColour));
     if (!canvas.isNull()) {
         QPainter painter(&grown);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.drawImage(0, 0, canvas);
+        painter.drawImage(QPointF(0, 0), canvas);
     }
+    if (canvas.devicePixelRatio() != ratio)
+        laidOutTexts.clear();
     canvas = grown;
 }
 

@@ -80,6 +80,8 @@ private:
     // Brings the kept image to the widget's size, keeping what is drawn.
     void syncImage() const;
     void plot(QPoint at, QRgb pen);
+    // The canvas in widget pixels.
+    QRect logicalRect() const;
     void horizontalLine(int y, int left, int right, QRgb pen);
     const QFontMetrics& drawMetrics() const;
     struct LaidOutText {

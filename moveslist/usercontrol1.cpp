@@ -1,6 +1,7 @@
 #include "moveslist/usercontrol1.h"
 
 #include "moveslist/lbblock.h"
+#include "moveslist/listaccessible.h"
 #include "moveslist/listnumbers.h"
 #include "moveslist/olecolor.h"
 #include "moveslist/picturebox.h"
@@ -27,10 +28,12 @@ constexpr double Picture3Height = 315;
 
 // The drop button's picture: a black down arrow 11 pixels wide and 10 high, 2 in
 // from the left and 3 down, on a transparent ground. A stem of four rows stands on a
-// head that narrows from 11 pixels to 1.
-QPixmap DropArrow()
+// head that narrows from 11 pixels to 1. Drawn at the screen's own density, so its
+// edges stay crisp on a high-density screen.
+QPixmap DropArrow(qreal ratio)
 {
-    QImage arrow(16, 16, QImage::Format_ARGB32);
+    QImage arrow(QSize(16, 16) * ratio, QImage::Format_ARGB32);
+    arrow.setDevicePixelRatio(ratio);
     arrow.fill(Qt::transparent);
     QPainter painter(&arrow);
     painter.fillRect(QRect(6, 3, 3, 4), Qt::black);
@@ -56,6 +59,9 @@ UserControl1::UserControl1(QWidget* parent)
     // A new control has a fixed single border.
     applySurfaceBorder(1);
     UserControl_Initialize();
+    // Screen readers reach the items through the list's own interface.
+    static const bool readable = (QAccessible::installFactory(&ListAccessible::Create), true);
+    Q_UNUSED(readable);
 }
 
 UserControl1* UserControl1::FromBlock(const QByteArray& block, QWidget* parent)
@@ -110,7 +116,7 @@ void UserControl1::createChildren()
 
     // A picture that serves as a button: raised like one, with no pressed look.
     command1 = new QLabel(this);
-    command1->setPixmap(DropArrow());
+    command1->setPixmap(DropArrow(devicePixelRatioF()));
     command1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     command1->setFrameStyle(QFrame::Panel | QFrame::Raised);
     command1->setLineWidth(1);

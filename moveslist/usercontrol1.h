@@ -134,6 +134,16 @@ public:
     void setDesignTime(bool design) { inDesign = design; }
 
     const ListState& state() const { return st; }
+
+    // What a screen reader says of an item (from 1): its text, and whatever the host's
+    // voice makes of the item's colour.
+    using RowVoice = std::function<QString(const QString& text, int32_t colour)>;
+    void setRowVoice(RowVoice voice) { rowVoice = std::move(voice); }
+    QString rowAccessibleName(int32_t item) const;
+    // Where an item stands, in this control's pixels; empty while it is out of view.
+    QRect itemRect(int32_t item) const;
+    // The item under a point of this control; 0 for none.
+    int32_t itemAt(QPoint at) const;
     // Picture1's kept pixels, as the rows were last drawn.
     const QImage& canvas() const;
 
@@ -269,4 +279,5 @@ private:
     QLineEdit* Text1 = nullptr;
     QScrollBar* VScroll1 = nullptr;
     QLabel* command1 = nullptr;
+    RowVoice rowVoice;
 };

@@ -2,6 +2,7 @@
 
 #include "controls/quillet.h"
 #include "engine/number_text.h"
+#include "moveslist/usercontrol1.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -58,4 +59,17 @@ void Form1::AnnounceKeyboardPot()
         return;
     QAccessibleEvent focus(Pots[selected], QAccessible::Focus);
     QAccessible::updateAccessibility(&focus);
+}
+
+// The log's colours say whose move a row is; a screen reader says it in words.
+void Form1::VoiceMovesList()
+{
+    MovesList->setAccessibleName(QStringLiteral("Moves"));
+    MovesList->setRowVoice([](const QString& text, int32_t colour) {
+        if (colour == HumanGreen)
+            return QStringLiteral("%1, yours").arg(text);
+        if (colour == ComputerRed)
+            return QStringLiteral("%1, computer's").arg(text);
+        return text;
+    });
 }

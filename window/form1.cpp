@@ -148,6 +148,7 @@ void Form1::CreateControls()
     MovesList->setParent(this);
     MovesList->setObjectName(QStringLiteral("MovesList"));
     MovesList->setGeometry(PxRect(Layout::MovesList));
+    VoiceMovesList();
 
     Hand = new Quillet(this);
     Hand->setObjectName(QStringLiteral("Hand"));

@@ -89,6 +89,7 @@ private:
     void DescribeTotal(int16_t Index);
     void DescribeButton(Quillet* button);
     void AnnounceKeyboardPot();
+    void VoiceMovesList();
     void CreateControls();
     void CreateBoard();
     void CreateCommandPanel();

@@ -1,0 +1,58 @@
+#include "moveslist/listaccessible.h"
+
+#include "moveslist/listrowaccessible.h"
+#include "moveslist/usercontrol1.h"
+
+ListAccessible::ListAccessible(UserControl1* list) : QAccessibleWidget(list, QAccessible::List) {}
+
+ListAccessible::~ListAccessible()
+{
+    for (const auto& [item, id] : rows)
+        QAccessible::deleteAccessibleInterface(id);
+}
+
+UserControl1* ListAccessible::list() const
+{
+    return static_cast<UserControl1*>(widget());
+}
+
+int ListAccessible::childCount() const
+{
+    return list()->state().ItemCount;
+}
+
+QAccessibleInterface* ListAccessible::child(int index) const
+{
+    if (index < 0 || index >= childCount())
+        return nullptr;
+    const int32_t item = index + 1;
+    const auto found = rows.find(item);
+    if (found != rows.end())
+        return QAccessible::accessibleInterface(found->second);
+    const QAccessible::Id id =
+        QAccessible::registerAccessibleInterface(new ListRowAccessible(list(), item));
+    rows.emplace(item, id);
+    return QAccessible::accessibleInterface(id);
+}
+
+int ListAccessible::indexOfChild(const QAccessibleInterface* child) const
+{
+    if (child == nullptr || child->role() != QAccessible::ListItem)
+        return -1;
+    const auto* row = static_cast<const ListRowAccessible*>(child);
+    return row->isValid() && row->parent() == this ? row->item() - 1 : -1;
+}
+
+QAccessibleInterface* ListAccessible::childAt(int x, int y) const
+{
+    const int32_t item = list()->itemAt(list()->mapFromGlobal(QPoint(x, y)));
+    return item > 0 ? child(item - 1) : nullptr;
+}
+
+QAccessibleInterface* ListAccessible::Create(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("UserControl1"))
+        return nullptr;
+    auto* list = qobject_cast<UserControl1*>(object);
+    return list != nullptr ? new ListAccessible(list) : nullptr;
+}

@@ -1,0 +1,148 @@
+#include "controls/quillet.h"
+#include "moveslist/usercontrol1.h"
+#include "window/form1.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Whether every line of a text stands inside the control, as its own font draws it.
+bool Fits(const QWidget* control, const QString& text)
+{
+    const QFontMetrics metrics(control->font());
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& line : lines)
+        if (metrics.horizontalAdvance(line) > control->width())
+            return false;
+    return int(lines.size()) * metrics.height() <= control->height() + metrics.descent();
+}
+
+void ExpectEveryCaptionFits(const Form1& form)
+{
+    // A failing line names the control and the text that overflows it.
+    const auto check = [](const QWidget* control, const QString& text) {
+        if (!control->isVisible() || text.isEmpty())
+            return;
+        EXPECT_TRUE(Fits(control, text))
+            << control->objectName().toStdString() << ": " << text.toStdString();
+    };
+    for (const Quillet* control : form.findChildren<Quillet*>())
+        check(control, control->caption());
+    for (const QLabel* label : form.findChildren<QLabel*>())
+        check(label, label->text());
+}
+
+void Click(Form1& form, const char* name)
+{
+    QTest::mouseClick(form.findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
+}
+
+class Look : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        form.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+    }
+    Form1 form;
+};
+
+} // namespace
+
+// Captions change all through a game: the messages, the totals, the result.
+TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
+{
+    ExpectEveryCaptionFits(form);
+    for (int turn = 0; turn < 300 && !form.game().GameFinished; ++turn) {
+        Click(form, "TakeComp");
+        ExpectEveryCaptionFits(form);
+    }
+    ASSERT_TRUE(form.game().GameFinished);
+}
+
+TEST_F(Look, TheLogSaysWhoseEachRowIs)
+{
+    QAccessible::setActive(true);
+    Click(form, "Pots0");
+    auto* list = form.findChild<UserControl1*>(QStringLiteral("MovesList"));
+    QAccessibleInterface* log = QAccessible::queryAccessibleInterface(list);
+    ASSERT_NE(log, nullptr);
+    EXPECT_EQ(log->role(), QAccessible::List);
+    ASSERT_EQ(log->childCount(), list->state().ItemCount);
+
+    int yoursMoves = 0;
+    int computersMoves = 0;
+    for (int i = 0; i < log->childCount(); ++i) {
+        QAccessibleInterface* row = log->child(i);
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->role(), QAccessible::ListItem);
+        EXPECT_EQ(log->indexOfChild(row), i);
+        EXPECT_EQ(row->parent(), log);
+        const QString name = row->text(QAccessible::Name);
+        const QString text = list->state().Items[size_t(i) + 1].section(QLatin1Char('\t'), 0, 0);
+        EXPECT_TRUE(name.startsWith(text)) << name.toStdString();
+        if (!text.startsWith(QLatin1Char('#')))
+            continue;
+        // The player's only move is the one from A; the rest is the computer's reply.
+        const bool players = text.contains(QLatin1String("from A"));
+        EXPECT_EQ(name,
+                  text + (players ? QStringLiteral(", yours") : QStringLiteral(", computer's")));
+        yoursMoves += players;
+        computersMoves += !players;
+    }
+    EXPECT_EQ(yoursMoves, 1);
+    EXPECT_GE(computersMoves, 1);
+
+    // A row in view stands where it is drawn, and is found there.
+    QAccessibleInterface* newest = log->child(0);
+    const QRect where = newest->rect();
+    ASSERT_FALSE(where.isEmpty());
+    EXPECT_TRUE(log->rect().contains(where.center()));
+    EXPECT_EQ(log->childAt(where.center().x(), where.center().y()), newest);
+
+    // A row kept by a reader past the clearing of the log is no longer valid.
+    list->Clear();
+    EXPECT_EQ(log->childCount(), 0);
+    EXPECT_FALSE(newest->isValid());
+    EXPECT_TRUE(newest->text(QAccessible::Name).isEmpty());
+}
+
+// These run again on a screen of ratio 2 (see CMakeLists.txt).
+class WindowAtRatioTwo : public Look {
+protected:
+    void SetUp() override
+    {
+        if (qGuiApp->devicePixelRatio() != 2.0)
+            GTEST_SKIP() << "the screen is not at ratio 2";
+        Look::SetUp();
+    }
+};
+
+// Text drawn at the screen's density has edges that fall inside a 2 by 2 block of
+// pixels; a canvas drawn at ratio 1 and scaled up has none.
+TEST_F(WindowAtRatioTwo, TheLogIsDrawnSharp)
+{
+    Click(form, "Pots0");
+    const auto* list = form.findChild<UserControl1*>(QStringLiteral("MovesList"));
+    const QImage canvas = list->canvas();
+    ASSERT_EQ(canvas.devicePixelRatio(), 2.0);
+    int splitBlocks = 0;
+    for (int y = 0; y + 1 < canvas.height(); y += 2)
+        for (int x = 0; x + 1 < canvas.width(); x += 2) {
+            const QRgb corner = canvas.pixel(x, y);
+            splitBlocks += canvas.pixel(x + 1, y) != corner || canvas.pixel(x, y + 1) != corner ||
+                           canvas.pixel(x + 1, y + 1) != corner;
+        }
+    EXPECT_GT(splitBlocks, 50);
+}
+
+TEST_F(WindowAtRatioTwo, TheWindowIsTwiceItsSizeInPixels)
+{
+    const QImage shot = form.grab().toImage();
+    EXPECT_EQ(shot.size(), form.size() * 2);
+}
