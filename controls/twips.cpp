@@ -38,4 +38,10 @@ QRect toPixels(float Left, float Top, float Width, float Height)
     return QRect(toPixels(Left), toPixels(Top), toPixels(Width), toPixels(Height));
 }
 
+QRect toPixels(const QRect& place)
+{
+    return toPixels(static_cast<float>(place.x()), static_cast<float>(place.y()),
+                    static_cast<float>(place.width()), static_cast<float>(place.height()));
+}
+
 } // namespace Twips

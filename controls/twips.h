@@ -14,5 +14,7 @@ int toPixels(float twips);
 float fromPixels(float pixels);
 
 QRect toPixels(float Left, float Top, float Width, float Height);
+// A place given in twips, as the windows' layout tables hold them.
+QRect toPixels(const QRect& place);
 
 } // namespace Twips

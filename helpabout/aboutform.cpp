@@ -1,7 +1,7 @@
 #include "helpabout/aboutform.h"
 
+#include "controls/twips.h"
 #include "helpabout/boardpicture.h"
-#include "helpabout/twips.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr TwipRect ClientPlace{2790, 2925, 4755, 2640};
-constexpr TwipRect AboutOkPlace{1740, 1860, 510, 375};
-constexpr TwipRect Picture1Place{4185, 30, 510, 480};
-constexpr TwipRect Label1Place{90, 2280, 4575, 315};
-constexpr TwipRect Text1Place{60, 30, 4095, 1755};
+constexpr QRect ClientPlace{2790, 2925, 4755, 2640};
+constexpr QRect AboutOkPlace{1740, 1860, 510, 375};
+constexpr QRect Picture1Place{4185, 30, 510, 480};
+constexpr QRect Label1Place{90, 2280, 4575, 315};
+constexpr QRect Text1Place{60, 30, 4095, 1755};
 
 // Three empty lines set the name and the address low in the box.
 const QString AboutText = QStringLiteral("\n\n\nTAVOK by Dravo\nemail dravo@tavok.example");
@@ -36,22 +36,21 @@ AboutForm::AboutForm(QWidget* parent)
     setWindowTitle(QStringLiteral("About TAVOK"));
     setWindowIcon(QIcon(MiniatureBoard()));
     setFont(FormFont());
-    const double perPixel = TwipsPerPixel(this);
-    const QRect client = ToPixels(ClientPlace, perPixel);
+    const QRect client = Twips::toPixels(ClientPlace);
     setGeometry(client);
     setFixedSize(client.size());
 
     AboutOk = new QPushButton(QStringLiteral("OK"), this);
-    AboutOk->setGeometry(ToPixels(AboutOkPlace, perPixel));
+    AboutOk->setGeometry(Twips::toPixels(AboutOkPlace));
     AboutOk->setDefault(true);
 
     Picture1 = new QLabel(this);
-    Picture1->setGeometry(ToPixels(Picture1Place, perPixel));
+    Picture1->setGeometry(Twips::toPixels(Picture1Place));
     Picture1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Picture1->setPixmap(MiniatureBoard());
 
     Label1 = new QLabel(QStringLiteral("Version 1.0"), this);
-    Label1->setGeometry(ToPixels(Label1Place, perPixel));
+    Label1->setGeometry(Twips::toPixels(Label1Place));
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setAutoFillBackground(true);
     QPalette versionColours = Label1->palette();
@@ -60,7 +59,7 @@ AboutForm::AboutForm(QWidget* parent)
     Label1->setPalette(versionColours);
 
     Text1 = new QTextEdit(this);
-    Text1->setGeometry(ToPixels(Text1Place, perPixel));
+    Text1->setGeometry(Twips::toPixels(Text1Place));
     Text1->setReadOnly(true);
     Text1->setFrameShape(QFrame::NoFrame);
     Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,7 +1,7 @@
 #include "helpabout/helpform.h"
 
+#include "controls/twips.h"
 #include "helpabout/boardpicture.h"
-#include "helpabout/twips.h"
 #include "helpabout/webbrowser.h"
 
 #include <QEvent>
@@ -12,10 +12,10 @@ namespace {
 
 constexpr int ClientWidth = 7185;
 constexpr int ClientHeight = 5625;
-constexpr TwipRect Command1Place{60, 30, 1095, 375};
-constexpr TwipRect Command2Place{1155, 30, 1095, 375};
-constexpr TwipRect Command3Place{2250, 30, 1095, 375};
-constexpr TwipRect BrowserPlace{30, 420, 7110, 5460};
+constexpr QRect Command1Place{60, 30, 1095, 375};
+constexpr QRect Command2Place{1155, 30, 1095, 375};
+constexpr QRect Command3Place{2250, 30, 1095, 375};
+constexpr QRect BrowserPlace{30, 420, 7110, 5460};
 
 // What the frame takes round the browser: its right and lower edges follow the
 // window's outer edges at these distances.
@@ -38,14 +38,13 @@ HelpForm::HelpForm(QWidget* parent) : QWidget(parent, Qt::Window)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Tavok Help"));
     setWindowIcon(QIcon(MiniatureBoard()));
-    const double perPixel = TwipsPerPixel(this);
-    resize(ToPixels(ClientWidth, perPixel), ToPixels(ClientHeight, perPixel));
+    resize(Twips::toPixels(ClientWidth), Twips::toPixels(ClientHeight));
 
-    Command1 = addButton(QStringLiteral("Back"), ToPixels(Command1Place, perPixel));
-    Command2 = addButton(QStringLiteral("Forward"), ToPixels(Command2Place, perPixel));
-    Command3 = addButton(QStringLiteral("Exit"), ToPixels(Command3Place, perPixel));
+    Command1 = addButton(QStringLiteral("Back"), Twips::toPixels(Command1Place));
+    Command2 = addButton(QStringLiteral("Forward"), Twips::toPixels(Command2Place));
+    Command3 = addButton(QStringLiteral("Exit"), Twips::toPixels(Command3Place));
     WebBrowser1 = new WebBrowser(this);
-    WebBrowser1->setGeometry(ToPixels(BrowserPlace, perPixel));
+    WebBrowser1->setGeometry(Twips::toPixels(BrowserPlace));
 
     setTabOrder(WebBrowser1, Command1);
     setTabOrder(Command1, Command2);
@@ -78,7 +77,7 @@ void HelpForm::Form_Activate()
 // for it leaves the browser as it was.
 void HelpForm::Form_Resize()
 {
-    const double perPixel = TwipsPerPixel(this);
+    const double perPixel = Twips::perPixel();
     const QSize outer = frameGeometry().size();
     const double width = outer.width() * perPixel - FrameWidthAllowance;
     if (width >= 0)

@@ -1,7 +1,8 @@
 #include "helpabout/webbrowser.h"
 
-#include "helpabout/twips.h"
+#include "controls/twips.h"
 
+#include <QDebug>
 #include <QFile>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -19,12 +20,6 @@ QUrl AddressOf(const QString& path)
     if (path.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
         return QUrl(path);
     return QUrl::fromLocalFile(path);
-}
-
-QString MissingPage(const QUrl& page)
-{
-    return QStringLiteral("<h3>The page cannot be shown</h3><p>%1 was not found.</p>")
-        .arg(page.toLocalFile().toHtmlEscaped());
 }
 
 } // namespace
@@ -69,17 +64,17 @@ void WebBrowser::GoForward()
 
 double WebBrowser::Top() const
 {
-    return y() * TwipsPerPixel(this);
+    return y() * Twips::perPixel();
 }
 
 void WebBrowser::Width(double twips)
 {
-    resize(ToPixels(twips, TwipsPerPixel(this)), height());
+    resize(Twips::toPixels(static_cast<float>(twips)), height());
 }
 
 void WebBrowser::Height(double twips)
 {
-    resize(width(), ToPixels(twips, TwipsPerPixel(this)));
+    resize(width(), Twips::toPixels(static_cast<float>(twips)));
 }
 
 // No layout here: a layout would give the browser a least size, and a window made
@@ -127,8 +122,11 @@ void WebBrowser::load(const QUrl& page)
     // Pictures of the page lie beside it.
     view->document()->setBaseUrl(page);
     QFile file(page.toLocalFile());
+    // A page that is gone leaves the window empty; the reason goes to standard error,
+    // where a packager looks.
     if (!file.open(QIODevice::ReadOnly)) {
-        view->setHtml(MissingPage(page));
+        view->clear();
+        qWarning().noquote() << "Help page not found:" << page.toLocalFile();
         return;
     }
     view->setHtml(QString::fromUtf8(file.readAll()));

@@ -1,6 +1,6 @@
+#include "controls/twips.h"
 #include "help_fixture.h"
 #include "helpabout/helpform.h"
-#include "helpabout/twips.h"
 #include "helpabout/webbrowser.h"
 
 #include <QCoreApplication>
@@ -102,11 +102,12 @@ TEST_F(HelpWindow, TheBrowserFollowsTheFrame)
 
 TEST_F(HelpWindow, AWindowTooSmallLeavesTheBrowserAsItWas)
 {
-    const double perPixel = TwipsPerPixel(help);
+    const double perPixel = Twips::perPixel();
     const QSize before = browser->size();
     help->resize(300, 50);
     EXPECT_EQ(browser->height(), before.height()) << "50 pixels leave no room below the buttons";
-    const int width = ToPixels(help->frameGeometry().width() * perPixel - 120, perPixel);
+    const int width =
+        Twips::toPixels(static_cast<float>(help->frameGeometry().width() * perPixel - 120));
     EXPECT_EQ(browser->width(), width) << "the width still follows";
 
     help->resize(1, 50);
@@ -128,4 +129,20 @@ TEST_F(HelpWindow, ExitHidesAndKeepsTheWindowClosingEvenAHiddenOneDestroysIt)
     help->close();
     RunDeferredDeletes();
     EXPECT_TRUE(help.isNull());
+}
+
+// A game installed without its page still opens the help window, empty, and every
+// button keeps working on it.
+TEST_F(HelpWindow, AMissingPageGivesAnEmptyWindowThatStillAnswers)
+{
+    help->hide();
+    help->Tag(page.path() + QStringLiteral(".gone"));
+    help->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(help));
+    EXPECT_TRUE(view->toPlainText().isEmpty());
+    for (QPushButton* button : help->findChildren<QPushButton*>())
+        QTest::mouseClick(button, Qt::LeftButton);
+    RunDeferredDeletes();
+    ASSERT_FALSE(help.isNull());
+    EXPECT_TRUE(view->toPlainText().isEmpty());
 }
