@@ -1,15 +1,13 @@
 #include "moveslist/usercontrol1.h"
 
+#include "controls/key_numbers.h"
 #include "controls/mouse_numbers.h"
-#include "moveslist/inputnumbers.h"
 #include "moveslist/picturebox.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
-
-using namespace inputnumbers;
 
 namespace {
 
@@ -56,7 +54,7 @@ bool UserControl1::eventFilter(QObject* watched, QEvent* event)
         return command1Event(event);
     if (watched == Text1 && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t KeyCode = KeyNumber(*key);
         int16_t Shift = ShiftNumber(key->modifiers());
         Guarded([&] { Text1_KeyDown(KeyCode, Shift); });
     }
@@ -81,7 +79,7 @@ bool UserControl1::Picture1Event(QEvent* event)
         // Tab moves the focus on, as it does everywhere else.
         if (IsTab(*key))
             return false;
-        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t KeyCode = KeyNumber(*key);
         int16_t Shift = ShiftNumber(key->modifiers());
         Guarded([&] { Picture1_KeyDown(KeyCode, Shift); });
         if (std::optional<int16_t> ascii = KeyAscii(*key))
@@ -95,7 +93,7 @@ bool UserControl1::Picture1Event(QEvent* event)
         // A held key goes down again and again, and comes up once.
         if (key->isAutoRepeat())
             return true;
-        int16_t KeyCode = inputnumbers::KeyCode(*key);
+        int16_t KeyCode = KeyNumber(*key);
         int16_t Shift = ShiftNumber(key->modifiers());
         Guarded([&] { Picture1_KeyUp(KeyCode, Shift); });
         return true;

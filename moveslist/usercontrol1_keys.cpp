@@ -1,6 +1,6 @@
 #include "moveslist/usercontrol1.h"
 
-#include "moveslist/inputnumbers.h"
+#include "controls/key_numbers.h"
 #include "moveslist/itemrecord.h"
 #include "moveslist/listnumbers.h"
 #include "moveslist/picturebox.h"
@@ -12,7 +12,6 @@ using moveslist::NumberText;
 using moveslist::To16;
 
 namespace col = itemrecord;
-namespace key = inputnumbers::key;
 
 // The mark stays on the first canvas row and the list scrolls under it: the item the
 // keys act on is always the one at TopRow. No key pages.

@@ -1,6 +1,6 @@
 #include "window/form1.h"
 
-#include "window/key_codes.h"
+#include "controls/key_numbers.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -21,7 +21,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
         return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     const int16_t before = game_.KeyboardPot;
-    game_.Form_KeyDown(GameKeyCode(key->key()), 0);
+    game_.Form_KeyDown(KeyNumber(*key), 0);
     if (game_.KeyboardPot != before)
         AnnounceKeyboardPot();
     return false;

@@ -1,12 +1,12 @@
 #include "tools/trace/trace.h"
 
+#include "controls/key_numbers.h"
 #include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "moveslist/itemrecord.h"
 #include "moveslist/usercontrol1.h"
 #include "window/form1.h"
 #include "window/form1_layout.h"
-#include "window/key_codes.h"
 
 #include <QApplication>
 #include <QGroupBox>
