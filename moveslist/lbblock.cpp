@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstring>
+#include <limits>
 
 namespace lbblock {
 
@@ -231,7 +232,12 @@ void AppendValue(QByteArray& out, const PropertyEntry& entry)
 // An entry without its step, which is filled in once all sizes are known.
 QByteArray EntryBytes(const PropertyEntry& entry)
 {
+    // Lowering can lengthen a key; one that no longer fits its 16-bit length is refused
+    // rather than written with a length that lies.
     const QString key = entry.key.toLower();
+    if (key.size() > std::numeric_limits<int16_t>::max())
+        throw ListError(ListErrorCode::Overflow,
+                        QStringLiteral("Overflow: a property key longer than 32767 characters"));
     QByteArray out;
     Append<int16_t>(out, static_cast<int16_t>(entry.type));
     Append<int16_t>(out, static_cast<int16_t>(key.size()));

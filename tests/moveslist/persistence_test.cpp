@@ -97,6 +97,18 @@ TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
     EXPECT_EQ(lbblock::Read(lbblock::Write(lone)).ReadProperty("mode", 0), AnyValue(1));
 }
 
+// Dotted capital I lowers to two characters: a key that fits 16 bits before lowering
+// may not after, and must then be refused rather than written with a false length.
+TEST(PropertyBlock, AKeyTooLongOnceLoweredIsRefused)
+{
+    PropertyBag fits;
+    fits.WriteProperty(QString(32767, QLatin1Char('K')), PropertyType::Integer, 1, 0);
+    EXPECT_EQ(lbblock::Read(lbblock::Write(fits)).entries().size(), 1U);
+    PropertyBag grows;
+    grows.WriteProperty(QString(16384, QChar(0x130)), PropertyType::Integer, 1, 0);
+    EXPECT_EQ(ErrorCode([&] { lbblock::Write(grows); }), ListErrorCode::Overflow);
+}
+
 TEST(DamagedPropertyBlock, EveryCutIsRefusedAndNoControlIsMade)
 {
     for (int length = 0; length < MovesListVector.size(); ++length)
