@@ -37,20 +37,13 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
                 highBank = expected[13];
             } else if (kind == 2) {
                 game.TakeComp_Click();
-                expected = ref::Turned(expected);
-                ref::ComputerTurn(expected);
-                expected = ref::Turned(expected);
-                if (ref::Live(expected))
-                    ref::ComputerTurn(expected);
+                ref::ForcedTurn(expected);
             } else {
                 const int16_t pot = static_cast<int16_t>(random() % 6);
                 if (expected[pot] == 0)
                     continue;
                 game.Pots_MouseUp(pot, 1, 0, 0, 0);
-                const int last = ref::Sow(expected, pot);
-                ref::Capture(expected, last, 6);
-                if (ref::Live(expected) && last != 6)
-                    ref::ComputerTurn(expected);
+                ref::PlayerMove(expected, pot);
             }
             for (int s = 0; s < SlotCount; ++s)
                 ASSERT_EQ(game.Beads[s], expected[s]) << "game " << g << " slot " << s;

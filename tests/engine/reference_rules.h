@@ -102,4 +102,23 @@ inline Ring Turned(const Ring& b)
     return t;
 }
 
+// The player's pot sown, and the computer's reply unless the last bead earned another go.
+inline void PlayerMove(Ring& b, int pot)
+{
+    const int last = Sow(b, pot);
+    Capture(b, last, 6);
+    if (Live(b) && last != 6)
+        ComputerTurn(b);
+}
+
+// A forced turn: the computer plays the player's side, then its own.
+inline void ForcedTurn(Ring& b)
+{
+    b = Turned(b);
+    ComputerTurn(b);
+    b = Turned(b);
+    if (Live(b))
+        ComputerTurn(b);
+}
+
 } // namespace ref

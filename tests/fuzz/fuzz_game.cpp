@@ -190,16 +190,9 @@ private:
     {
         ref::Ring expected = ToRing(before);
         if (expectPlay >= 0) {
-            const int last = ref::Sow(expected, expectPlay);
-            ref::Capture(expected, last, HumanBank);
-            if (ref::Live(expected) && last != HumanBank)
-                ref::ComputerTurn(expected);
+            ref::PlayerMove(expected, expectPlay);
         } else if (expectForcedTurn) {
-            expected = ref::Turned(expected);
-            ref::ComputerTurn(expected);
-            expected = ref::Turned(expected);
-            if (ref::Live(expected))
-                ref::ComputerTurn(expected);
+            ref::ForcedTurn(expected);
         } else {
             return;
         }
