@@ -37,10 +37,12 @@ QAccessibleInterface* ListAccessible::child(int index) const
 
 int ListAccessible::indexOfChild(const QAccessibleInterface* child) const
 {
-    if (child == nullptr || child->role() != QAccessible::ListItem)
+    // Only our own rows are items with this list as their parent; the child widgets
+    // have other roles.
+    if (child == nullptr || child->role() != QAccessible::ListItem || child->parent() != this ||
+        !child->isValid())
         return -1;
-    const auto* row = static_cast<const ListRowAccessible*>(child);
-    return row->isValid() && row->parent() == this ? row->item() - 1 : -1;
+    return static_cast<const ListRowAccessible*>(child)->item() - 1;
 }
 
 QAccessibleInterface* ListAccessible::childAt(int x, int y) const
