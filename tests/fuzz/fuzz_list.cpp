@@ -177,6 +177,7 @@ private:
         case 18: {
             const int mode = in.pick(2);
             Log(QStringLiteral("Mode %1").arg(mode));
+            model.Mode(mode);
             return Expect(0, [&] { list.Mode(int16_t(mode)); });
         }
         case 19: {

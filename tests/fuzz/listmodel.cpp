@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int TypeMismatch = 13;
+constexpr int InvalidPropertyValue = 380;
 
 } // namespace
 
@@ -62,6 +63,7 @@ int ListModel::Additem(const QString& s, int itemx, int& ipic, const QString& fo
                  Item{s, QStringLiteral("0"), ipic, fontName, colour,
                       insert ? QStringLiteral(" ") : QString()});
     lastAdded = int(at);
+    scrollMax = int(items.size()) - 1;
     return 0;
 }
 
@@ -73,6 +75,7 @@ int ListModel::RemoveItem(std::optional<double> it)
     if (n < 0)
         return 0;
     items.erase(items.begin() + n);
+    scrollMax = std::max(int(items.size()) - 1, 0);
     shownText.clear();
     if (items.empty())
         chosen.reset();
@@ -163,5 +166,6 @@ int ListModel::ShowItem(std::optional<double> i)
     const auto n = static_cast<int>(std::nearbyint(*i));
     shownText = items[size_t(n - 1)].text;
     chosen = n - 1;
-    return 0;
+    // The pick is made before the scroll, which cannot go past the bar's maximum.
+    return n - 1 > scrollMax ? InvalidPropertyValue : 0;
 }

@@ -40,6 +40,12 @@ public:
     // malformed pattern sets error to 93.
     std::optional<int> Find(int sdir, int it, const QString& pattern, int casen, int& error) const;
     int ShowItem(std::optional<double> i);
+    // Plain-list mode sets the scroll bar's maximum back to 0 until the next Additem.
+    void Mode(int mode)
+    {
+        if (mode == 0)
+            scrollMax = 0;
+    }
 
     // A record as the list stores it, the drawn width last.
     static QString Record(const Item& item);
@@ -50,6 +56,7 @@ public:
     QString shownText;         // the head's text box
     int lastAdded = 0;         // SetItemData's -1
     QString fontName;          // sticky between calls
+    int scrollMax = 0;         // how far ShowItem can scroll
 
 private:
     // The 0-based index a value names, or -1 when it names no item.
