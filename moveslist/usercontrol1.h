@@ -42,6 +42,7 @@ public:
     // Runs UserControl_Initialize only: the host then reads or initialises the
     // properties, as a form does when it loads an instance.
     explicit UserControl1(QWidget* parent = nullptr);
+    ~UserControl1() override;
     // A control loaded from its stored "-LB" block: properties read, then sized to
     // the block's extent. Its rows show once Mode is assigned.
     static UserControl1* FromBlock(const QByteArray& block, QWidget* parent = nullptr);

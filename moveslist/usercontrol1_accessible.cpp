@@ -3,10 +3,13 @@
 #include "moveslist/picturebox.h"
 #include "moveslist/usercontrol1.h"
 
+#include <QAccessible>
+
 #include <cmath>
 
 namespace col = itemrecord;
 using moveslist::NumericRead;
+using moveslist::R;
 
 QString UserControl1::rowAccessibleName(int32_t item) const
 {
@@ -26,9 +29,22 @@ QRect UserControl1::itemRect(int32_t item) const
         return {};
     if (item < st.TopRow || item >= st.TopRow + st.RowsInView || item > st.ItemCount)
         return {};
-    const int rowPixels = static_cast<int>(std::lround(double(st.RowTwips) / st.PixelTwipsY));
-    const QPoint top = Picture1->mapToGlobal(QPoint(0, (item - st.TopRow) * rowPixels));
-    return QRect(mapFromGlobal(top), QSize(Picture1->width(), rowPixels));
+    // Each row's top is rounded on its own, as the rows are drawn, so that a fraction
+    // of a pixel per row does not add up down the list.
+    const auto top = [&](int32_t row) {
+        return static_cast<int>(R(double(row - st.TopRow) * st.RowTwips / st.PixelTwipsY));
+    };
+    const QPoint at = Picture1->mapToGlobal(QPoint(0, top(item)));
+    return QRect(mapFromGlobal(at), QSize(Picture1->width(), top(item + 1) - top(item)));
+}
+
+// A screen reader may ask about the list while its children are going: its interface
+// goes first.
+UserControl1::~UserControl1()
+{
+    if (QAccessible::isActive())
+        QAccessible::deleteAccessibleInterface(
+            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(this)));
 }
 
 int32_t UserControl1::itemAt(QPoint at) const

@@ -98,12 +98,24 @@ TEST_F(Look, TheLogSaysWhoseEachRowIs)
     EXPECT_EQ(yoursMoves, 1);
     EXPECT_GE(computersMoves, 1);
 
-    // A row in view stands where it is drawn, and is found there.
+    // Every row in view stands where it is drawn, under the one before it, and is
+    // found there; the rows' fractions of a pixel do not add up.
+    int bottom = -1;
+    for (int i = 0; i < log->childCount(); ++i) {
+        const QRect where = log->child(i)->rect();
+        ASSERT_FALSE(where.isEmpty()) << "row " << i;
+        EXPECT_TRUE(log->rect().contains(where.center()));
+        EXPECT_EQ(log->childAt(where.center().x(), where.center().y()), log->child(i));
+        if (bottom >= 0) {
+            EXPECT_EQ(where.top(), bottom + 1) << "row " << i;
+        }
+        bottom = where.bottom();
+    }
+    const int rowTwips = list->state().RowTwips;
+    const int lastTop =
+        log->child(log->childCount() - 1)->rect().top() - log->child(0)->rect().top();
+    EXPECT_NEAR(lastTop, (log->childCount() - 1) * rowTwips / list->state().PixelTwipsY, 1);
     QAccessibleInterface* newest = log->child(0);
-    const QRect where = newest->rect();
-    ASSERT_FALSE(where.isEmpty());
-    EXPECT_TRUE(log->rect().contains(where.center()));
-    EXPECT_EQ(log->childAt(where.center().x(), where.center().y()), newest);
 
     // A row kept by a reader past the clearing of the log is no longer valid.
     list->Clear();
