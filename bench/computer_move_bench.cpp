@@ -7,46 +7,62 @@ namespace {
 // A screen that does nothing: the selection alone is measured.
 class SilentScreen : public GameScreen {
 public:
-    void RefreshPot(int16_t) override {}
-    std::string PotTag(int16_t) const override { return {}; }
-    void SetPotEnabled(int16_t, bool) override {}
-    void SetMessCaption(const std::string&) override {}
-    void SetMessEnabled(bool) override {}
-    void ShowMess() override {}
-    void SetUndoxEnabled(bool) override {}
-    void SetCommandFrameEnabled(bool) override {}
-    void SetStartBeadsEnabled(bool) override {}
-    void SetHandLeft(float) override {}
-    void SetHandTop(float) override {}
-    void SetHandVisible(bool) override {}
-    bool HandVisible() const override { return false; }
-    float PotNameLeft(int16_t) const override { return 0; }
-    float PotNameTop(int16_t) const override { return 0; }
-    void SetTotalBCaption(int16_t, const std::string&) override {}
-    void MovesList_Additem(std::string&, int16_t, int16_t&, std::string&, int32_t&) override {}
-    void MovesList_Additem(std::string&, int16_t) override {}
-    void MovesList_Clear() override {}
-    void Score1_ScoreWin(bool) override {}
-    void Score1_ScoreDraw(bool) override {}
-    void DoEvents() override {}
+    void DrawPot(int16_t, const std::string&) override {}
+    void DrawPotHot(int16_t, const std::string&) override {}
+    std::string potTag(int16_t) const override { return {}; }
+    void setPotEnabled(int16_t, bool) override {}
+    void setMessCaption(const std::string&) override {}
+    void setMessEnabled(bool) override {}
+    void showMess() override {}
+    void setUndoxEnabled(bool) override {}
+    void setCommandFrameEnabled(bool) override {}
+    void setPausexCaption(const std::string&) override {}
+    void setStartBeadsEnabled(bool) override {}
+    int16_t startBeadsValue() const override { return 3; }
+    void setStartBeadsValue(int16_t) override {}
+    void setLabel2Caption(const std::string&) override {}
+    void setHandLeft(float) override {}
+    void setHandTop(float) override {}
+    void setHandVisible(bool) override {}
+    bool handVisible() const override { return false; }
+    float potNameLeft(int16_t) const override { return 0; }
+    float potNameTop(int16_t) const override { return 0; }
+    void setTotalBCaption(int16_t, const std::string&) override {}
+    void setUpMovesList() override {}
+    void movesListAdditem(std::string&, int16_t, int16_t&, std::string&, int32_t&) override {}
+    void movesListAdditem(std::string&, int16_t) override {}
+    void movesListClear() override {}
+    void scoreWin(bool) override {}
+    void scoreDraw(bool) override {}
+    void runPendingEvents() override {}
 };
+
+Board startPosition(int16_t count)
+{
+    Board beads;
+    beads.fill(count);
+    beads[HumanBank] = 0;
+    beads[ComputerBank] = 0;
+    return beads;
+}
 
 // One pass of the selection: six try-outs, each with its threat scan and restore.
 void BM_ComputerMoveSelection(benchmark::State& state)
 {
     SilentScreen screen;
     Game game(screen);
-    game.LayOutBoard(static_cast<int16_t>(state.range(0)));
-    game.SavedBeads = game.Beads;
+    GameState& position = game.stateForTests();
+    position.Beads = startPosition(static_cast<int16_t>(state.range(0)));
+    position.SavedBeads = position.Beads;
     for (auto _ : state) {
         int best = -1000000;
         for (int16_t p = 7; p <= 12; ++p) {
-            const int score = game.EvaluatePot(p);
+            const int score = game.evaluatePot(p);
             if (score >= best)
                 best = score;
         }
         benchmark::DoNotOptimize(best);
-        benchmark::DoNotOptimize(game.Beads);
+        benchmark::DoNotOptimize(position.Beads);
     }
     state.SetLabel("ns per pass");
 }
@@ -57,11 +73,12 @@ void BM_ComputerMoveWholeTurn(benchmark::State& state)
 {
     SilentScreen screen;
     Game game(screen);
+    GameState& position = game.stateForTests();
     for (auto _ : state) {
-        game.LayOutBoard(static_cast<int16_t>(state.range(0)));
-        game.LastEntryKey.clear();
+        position.Beads = startPosition(static_cast<int16_t>(state.range(0)));
+        position.LastEntryKey.clear();
         game.ComputerMove();
-        benchmark::DoNotOptimize(game.Beads);
+        benchmark::DoNotOptimize(position.Beads);
     }
 }
 BENCHMARK(BM_ComputerMoveWholeTurn)->Arg(3)->Arg(99);

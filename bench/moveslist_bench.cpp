@@ -26,11 +26,7 @@ QString Line(int i)
 std::unique_ptr<UserControl1> FilledMovesList(int count)
 {
     std::unique_ptr<UserControl1> list(UserControl1::FromBlock(MovesListBlock()));
-    list->DropDownHeight(3750);
-    list->Mode(0);
-    list->BorderStyle(0);
-    list->GridLines(true);
-    list->ToolTip(true);
+    setUpMovesLog(*list);
     for (int i = 0; i < count; ++i) {
         QString s = Line(i);
         list->Additem(s);

@@ -30,11 +30,12 @@ void BM_HumanMoveWithReply(benchmark::State& state)
     form.show();
     QApplication::processEvents();
     Game& game = form.game();
+    GameState& position = game.stateForTests();
     for (auto _ : state) {
         state.PauseTiming();
-        game.LayOutBoard(3);
+        position.Beads = {3, 3, 3, 3, 3, 3, 0, 3, 3, 3, 3, 3, 3, 0};
         game.UpdateBoard();
-        game.LastEntryKey.clear();
+        position.LastEntryKey.clear();
         QApplication::processEvents();
         state.ResumeTiming();
         game.Pots_MouseUp(0, 1, 0, 0, 0);

@@ -7,29 +7,29 @@
 // One move of its own, one reply of the other row: the difference of the banks
 // after trying the pot, less the greatest capture the other row could then make.
 // The try-out runs on the real board and is put back from SavedBeads.
-int Game::EvaluatePot(int16_t Pot)
+int Game::evaluatePot(int16_t Pot)
 {
     SowPot(Pot);
-    if (CaptureHolds()) {
-        CreditCapture();
-        ClearCapturedPots();
+    if (captureHolds()) {
+        creditCapture();
+        clearCapturedPots();
     }
 
     int threat = 0;
-    for (int k = 0; k <= 5; ++k) {
+    for (int k = FirstHumanPot; k <= LastHumanPot; ++k) {
         if (Beads[k] < 1)
             continue;
         int landing = k + Beads[k];
         // One mark for any number of laps; the scan does not sow, so a lap that would
         // fill its own landing slot still counts as landing in an empty pot.
         int lap = 0;
-        if (landing > 13) {
+        if (landing > ComputerBank) {
             landing %= SlotCount;
             lap = 1;
         }
         int value = lap;
-        if (Beads[landing] == 0 && !IsBank(landing))
-            value = Beads[Opposite(landing)] + lap;
+        if (Beads[landing] == 0 && !isBank(landing))
+            value = Beads[opposite(landing)] + lap;
         threat = std::max(threat, value);
     }
 
@@ -40,6 +40,14 @@ int Game::EvaluatePot(int16_t Pot)
 
 void Game::ComputerMove()
 {
+    computerMoving = true;
+    selectAndPlay();
+    computerMoving = false;
+}
+
+// One pass a move, and another for as long as the last bead falls in the own bank.
+void Game::selectAndPlay()
+{
     for (;;) {
         MoverBank = ComputerBank;
         SavedBeads = Beads;
@@ -48,10 +56,10 @@ void Game::ComputerMove()
         // plays its best pot rather than none.
         bool found = false;
         int best = 0;
-        for (int16_t p = 7; p <= 12; ++p) {
+        for (int16_t p = FirstComputerPot; p <= LastComputerPot; ++p) {
             if (Beads[p] < 1)
                 continue;
-            const int score = EvaluatePot(p);
+            const int score = evaluatePot(p);
             if (!found || score >= best) {
                 best = score;
                 ChosenPot = p;
@@ -63,30 +71,30 @@ void Game::ComputerMove()
             // Only after an extra move that spent the own row: nothing to sow.
             CheckRows();
             if (HintActive)
-                ShowHintPass();
+                showHintPass();
             return;
         }
-        PlayChosenPot();
+        playChosenPot();
         if (CurrentPot != MoverBank)
             return;
         std::string again = "Last entry into the bank; move again";
         if (HintActive)
             again = "HINT: " + again;
-        ListMove(MoveSide(), again);
+        ListMove(moveSide(), again);
     }
 }
 
 // A forced turn plays the human's row and narrates in green; a hint in black.
-int16_t Game::MoveSide() const
+int16_t Game::moveSide() const
 {
     if (HintActive)
         return SideHint;
     return BoardMirrored ? SideHuman : SideComputer;
 }
 
-void Game::PlayChosenPot()
+void Game::playChosenPot()
 {
-    const int16_t side = MoveSide();
+    const int16_t side = moveSide();
     const std::string prefix = HintActive ? "HINT: " : "";
     std::string move =
         prefix + "Move " + StrCount(Beads[CurrentPot]) + " from " + PotLetter(CurrentPot);
@@ -96,28 +104,28 @@ void Game::PlayChosenPot()
     if (Beads[CurrentPot] != 0)
         ListMove(side, move);
     SowPot(CurrentPot);
-    if (CaptureHolds()) {
-        const int16_t taken = CreditCapture();
+    if (captureHolds()) {
+        const int16_t taken = creditCapture();
         ListMove(side, prefix + "Last pot " + PotLetter(CurrentPot) +
                            " is empty:" + NumberText(taken) + " taken");
-        ClearCapturedPots();
+        clearCapturedPots();
     }
     CheckRows();
     if (HintActive)
-        ShowHintPass();
+        showHintPass();
 }
 
 // After each pass of a hint: the board as the advice leaves it, and the hand over
 // the letter of the first advised pot.
-void Game::ShowHintPass()
+void Game::showHintPass()
 {
     UpdateBoard();
     if (HintPot == 0)
         HintPot = ChosenPot;
-    if (!IsComputerPot(ChosenPot) || screen_.HandVisible())
+    if (!isComputerPot(ChosenPot) || m_screen.handVisible())
         return;
-    const int16_t letter = static_cast<int16_t>(ChosenPot - 7);
-    screen_.SetHandLeft(screen_.PotNameLeft(letter));
-    screen_.SetHandTop(screen_.PotNameTop(letter));
-    screen_.SetHandVisible(true);
+    const auto letter = static_cast<int16_t>(ChosenPot - FirstComputerPot);
+    m_screen.setHandLeft(m_screen.potNameLeft(letter));
+    m_screen.setHandTop(m_screen.potNameTop(letter));
+    m_screen.setHandVisible(true);
 }

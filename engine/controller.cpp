@@ -2,26 +2,59 @@
 
 #include "engine/number_text.h"
 
+// The start of the program: the window has set up its score board; the rest is ours,
+// with the slider, its label and the log's look told to the screen in their turn.
+void Game::Form_Load()
+{
+    StartBeadCount = 3;
+    EntryNumber = 0;
+    // The slider stood at its stored 99, so this lays out the board through
+    // StartBeads_Change.
+    m_screen.setStartBeadsValue(StartBeadCount);
+    m_screen.setLabel2Caption("Start with " + Digits(StartBeadCount) + " beads");
+    HintPotShown = NoSlot;
+    HoverPot = NoSlot;
+    KeyboardPot = NoSlot;
+    BoardMirrored = false;
+    HintActive = false;
+    PreviewActive = false;
+    PauseAtMoves = false;
+    GameFinished = false;
+    // NewGame copies the totals, so they are zero before it runs.
+    RunningTotals = {};
+    TotalsAtGameStart = {};
+    m_screen.setMessCaption("YOUR MOVE NOW");
+    m_screen.setMessEnabled(false);
+    m_screen.setPotEnabled(HumanBank, false);
+    m_screen.setPotEnabled(ComputerBank, false);
+    m_screen.setUndoxEnabled(false);
+    NewGame();
+    UpdateBoard();
+    m_screen.setUpMovesList();
+    logLine("Computer is RED", ComputerRed);
+    logLine("Human is GREEN", HumanGreen);
+}
+
 void Game::Pots_MouseUp(int16_t Index, int16_t Button, int16_t Shift, float X, float Y)
 {
     (void)Shift, (void)X, (void)Y;
-    if (Busy() || !IsSlot(Index))
+    if (busy() || !isSlot(Index))
         return;
     // The left button does nothing on the computer's row.
-    if (Index > 6 && Button != 2)
+    if (Index > HumanBank && Button != 2)
         return;
     if (GameFinished)
         return;
-    screen_.SetHandVisible(false);
+    m_screen.setHandVisible(false);
     // The first accepted event of a game locks the bead count, a preview included.
-    screen_.SetStartBeadsEnabled(false);
+    m_screen.setStartBeadsEnabled(false);
     if (Button == 2 && PreviewActive) {
         for (int16_t s = 0; s < SlotCount; ++s)
-            screen_.RefreshPot(s);
+            RefreshPot(s);
         PreviewActive = false;
         return;
     }
-    if (NumericRead(screen_.PotTag(Index)) == 0)
+    if (NumericRead(m_screen.potTag(Index)) == 0)
         return;
     Text1 = Digits(Index + 1);
     int16_t Result = 0;
@@ -37,23 +70,23 @@ void Game::Pots_MouseUp(int16_t Index, int16_t Button, int16_t Shift, float X, f
         return;
     if (CurrentPot == MoverBank) {
         const std::string again = "Last entry into the bank; move again";
-        screen_.SetMessCaption(again);
+        m_screen.setMessCaption(again);
         ListMove(SideHuman, again);
         return;
     }
-    ReplyAndHandBack("YOUR MOVE NOW");
+    replyAndHandBack("YOUR MOVE NOW");
 }
 
 // The computer's whole turn, the board shown, then either the end of the game or the
 // move handed back to the human with the given caption.
-void Game::ReplyAndHandBack(const std::string& caption)
+void Game::replyAndHandBack(const std::string& caption)
 {
     ComputerMove();
     UpdateBoard();
     if (!GameLive)
         EndGame();
     else
-        screen_.SetMessCaption(caption);
+        m_screen.setMessCaption(caption);
 }
 
 void Game::HumanMove(int16_t& Result)
@@ -72,23 +105,23 @@ void Game::HumanMove(int16_t& Result)
     const std::string move =
         "Move " + StrCount(Beads[CurrentPot]) + " from " + PotLetter(CurrentPot);
     // The snapshot comes before anything on the board changes.
-    screen_.SetUndoxEnabled(true);
-    TakeUndoSnapshot();
+    m_screen.setUndoxEnabled(true);
+    takeUndoSnapshot();
     ListMove(SideHuman, move);
     MoverBank = HumanBank;
     SowPot(CurrentPot);
-    if (CaptureHolds()) {
-        const int16_t taken = CreditCapture();
+    if (captureHolds()) {
+        const int16_t taken = creditCapture();
         ListMove(SideHuman,
                  "Last pot " + PotLetter(CurrentPot) + " is empty:" + NumberText(taken) + " taken");
-        ClearCapturedPots();
+        clearCapturedPots();
     }
     CheckRows();
 }
 
 void Game::NewGame()
 {
-    LayOutBoard(StartBeadCount);
+    layOutBoard(StartBeadCount);
     // Stays false until the first move sets it; nothing reads it before.
     GameLive = false;
     TotalsAtGameStart[1] = RunningTotals[1];
@@ -97,13 +130,13 @@ void Game::NewGame()
     HintActive = false;
     PreviewActive = false;
     GameFinished = false;
-    KeyboardPot = -1;
-    screen_.SetHandVisible(false);
+    KeyboardPot = NoSlot;
+    m_screen.setHandVisible(false);
 }
 
-void Game::LayOutBoard(int16_t Count)
+void Game::layOutBoard(int16_t Count)
 {
-    for (int s = 0; s <= 12; ++s)
+    for (int s = FirstHumanPot; s <= LastComputerPot; ++s)
         Beads[s] = Count;
     Beads[HumanBank] = 0;
     Beads[ComputerBank] = 0;
@@ -116,52 +149,16 @@ void Game::Mess_Click()
     if (!GameFinished)
         return;
     for (int16_t s = 0; s < SlotCount; ++s)
-        screen_.SetPotEnabled(s, true);
+        m_screen.setPotEnabled(s, true);
     // The banks never take clicks.
-    screen_.SetPotEnabled(HumanBank, false);
-    screen_.SetPotEnabled(ComputerBank, false);
+    m_screen.setPotEnabled(HumanBank, false);
+    m_screen.setPotEnabled(ComputerBank, false);
     GameFinished = false;
-    screen_.SetMessCaption("YOUR MOVE NOW");
-    screen_.MovesList_Clear();
+    m_screen.setMessCaption("YOUR MOVE NOW");
+    m_screen.movesListClear();
     NewGame();
-    screen_.SetStartBeadsEnabled(true);
-    screen_.SetUndoxEnabled(false);
+    m_screen.setStartBeadsEnabled(true);
+    m_screen.setUndoxEnabled(false);
     UpdateBoard();
-    screen_.SetMessEnabled(false);
-}
-
-void Game::Form_Load()
-{
-    ResetForLoad();
-    NewGame();
-    UpdateBoard();
-    LogOpeningLines();
-}
-
-void Game::ResetForLoad()
-{
-    StartBeadCount = 3;
-    EntryNumber = 0;
-    BoardMirrored = false;
-    HintActive = false;
-    PreviewActive = false;
-    PauseAtMoves = false;
-    GameFinished = false;
-    RunningTotals = {};
-    // NewGame copies the totals, so they are zero before it runs.
-    TotalsAtGameStart = {};
-    HintPotShown = -1;
-    HoverPot = -1;
-    KeyboardPot = -1;
-    screen_.SetMessCaption("YOUR MOVE NOW");
-    screen_.SetMessEnabled(false);
-    screen_.SetPotEnabled(HumanBank, false);
-    screen_.SetPotEnabled(ComputerBank, false);
-    screen_.SetUndoxEnabled(false);
-}
-
-void Game::LogOpeningLines()
-{
-    LogLine("Computer is RED", ComputerRed);
-    LogLine("Human is GREEN", HumanGreen);
+    m_screen.setMessEnabled(false);
 }

@@ -4,28 +4,41 @@
 
 #include <cstdlib>
 
+// One pot's face from Beads. An empty human pot takes no clicks, but while a hint
+// shows all six stay open.
+void Game::RefreshPot(int16_t Slot)
+{
+    if (!isSlot(Slot))
+        return;
+    m_screen.DrawPot(Slot, Digits(Beads[Slot]));
+    // The computer's pots and the banks keep their enabled state.
+    if (!isHumanPot(Slot))
+        return;
+    m_screen.setPotEnabled(Slot, Beads[Slot] != 0 || HintActive);
+}
+
 void Game::UpdateBoard()
 {
     // The screen shows the true sides, also in the middle of a hint.
     if (BoardMirrored)
         SwapSides();
-    for (int16_t s = 12; s >= 7; --s)
-        screen_.RefreshPot(s);
-    screen_.RefreshPot(ComputerBank);
-    screen_.RefreshPot(HumanBank);
-    for (int16_t s = 0; s <= 5; ++s)
-        screen_.RefreshPot(s);
-    RunningTotals[1] = ClampCount(TotalsAtGameStart[1] + Beads[ComputerBank]);
-    RunningTotals[2] = ClampCount(TotalsAtGameStart[2] + Beads[HumanBank]);
-    WriteTotals();
+    for (int16_t s = LastComputerPot; s >= FirstComputerPot; --s)
+        RefreshPot(s);
+    RefreshPot(ComputerBank);
+    RefreshPot(HumanBank);
+    for (int16_t s = FirstHumanPot; s <= LastHumanPot; ++s)
+        RefreshPot(s);
+    RunningTotals[1] = clampCount(TotalsAtGameStart[1] + Beads[ComputerBank]);
+    RunningTotals[2] = clampCount(TotalsAtGameStart[2] + Beads[HumanBank]);
+    writeTotals();
     if (BoardMirrored)
         SwapSides();
 }
 
-void Game::WriteTotals()
+void Game::writeTotals()
 {
-    screen_.SetTotalBCaption(1, Digits(RunningTotals[1]));
-    screen_.SetTotalBCaption(2, Digits(RunningTotals[2]));
+    m_screen.setTotalBCaption(1, Digits(RunningTotals[1]));
+    m_screen.setTotalBCaption(2, Digits(RunningTotals[2]));
 }
 
 void Game::EndGame()
@@ -36,21 +49,21 @@ void Game::EndGame()
     std::string result;
     if (margin > 0) {
         result = "YOU WIN BY " + NumberText(margin) + " POINTS";
-        screen_.Score1_ScoreWin(true);
+        m_screen.scoreWin(true);
     } else if (margin < 0) {
         result = "COMPUTER WINS BY " + NumberText(std::abs(margin)) + " POINTS";
-        screen_.Score1_ScoreWin(false);
+        m_screen.scoreWin(false);
     } else {
         result = "GAME DRAWN";
-        screen_.Score1_ScoreDraw(true);
+        m_screen.scoreDraw(true);
     }
     std::string line = result;
-    screen_.MovesList_Additem(line, -1);
+    m_screen.movesListAdditem(line, -1);
     GameFinished = true;
     for (int16_t s = 0; s < SlotCount; ++s)
-        screen_.SetPotEnabled(s, false);
-    screen_.SetMessCaption(result + " - click here to restart");
-    screen_.SetMessEnabled(true);
-    screen_.ShowMess();
+        m_screen.setPotEnabled(s, false);
+    m_screen.setMessCaption(result + " - click here to restart");
+    m_screen.setMessEnabled(true);
+    m_screen.showMess();
     EntryNumber = 0;
 }

@@ -19,6 +19,9 @@ struct GameState {
 
     // Turn cycle
     bool GameFinished = false;
+    // From the start of ComputerMove to its return. Its pauses run other handlers
+    // nested, and no second move may start in there.
+    bool computerMoving = false;
     std::string Text1; // the picked pot, 1 to 6, on its way to HumanMove
 
     // Computer's selection

@@ -4,7 +4,7 @@
 // so that ComputerMove finds the human's row where it looks for its own.
 void Game::TakeComp_Click()
 {
-    if (GameFinished || Busy())
+    if (GameFinished || busy())
         return;
     BoardMirrored = true;
     SwapSides();
@@ -16,7 +16,7 @@ void Game::TakeComp_Click()
         EndGame();
         return;
     }
-    ReplyAndHandBack("AGAIN YOUR MOVE NOW");
+    replyAndHandBack("AGAIN YOUR MOVE NOW");
 }
 
 // While the button is held the board shows where the advised move leads and the hand
@@ -24,7 +24,7 @@ void Game::TakeComp_Click()
 void Game::GiveHint_MouseDown(int16_t Button, int16_t Shift, float X, float Y)
 {
     (void)Button, (void)Shift, (void)X, (void)Y;
-    if (GameFinished || Busy())
+    if (GameFinished || busy())
         return;
     HintSavedBeads = Beads;
     PauseAtMovesSaved = PauseAtMoves;
@@ -35,7 +35,7 @@ void Game::GiveHint_MouseDown(int16_t Button, int16_t Shift, float X, float Y)
     HintPot = 0;
     ComputerMove();
     HintPotShown = HintPot;
-    screen_.SetHandVisible(true);
+    m_screen.setHandVisible(true);
     PauseAtMoves = PauseAtMovesSaved;
 }
 
@@ -50,5 +50,5 @@ void Game::GiveHint_MouseUp(int16_t Button, int16_t Shift, float X, float Y)
     Beads = HintSavedBeads;
     UpdateBoard();
     PauseAtMoves = PauseAtMovesSaved;
-    screen_.SetHandVisible(false);
+    m_screen.setHandVisible(false);
 }

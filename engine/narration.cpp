@@ -17,21 +17,21 @@ void Game::ListMove(int16_t Side, const std::string& Text)
         return;
 
     if (Side == SideHint) {
-        LogLine(Text, HintBlack);
+        logLine(Text, HintBlack);
     } else {
-        EntryNumber = ClampCount(EntryNumber + 1);
+        EntryNumber = clampCount(EntryNumber + 1);
         char number[16];
         std::snprintf(number, sizeof number, "#%03d>", static_cast<int>(EntryNumber));
         const std::string entry = number + Text;
         if (Side != SideComputer) {
-            LogLine(entry, HumanGreen);
+            logLine(entry, HumanGreen);
         } else {
             if (PauseAtMoves)
-                Pause(Text);
-            screen_.SetMessEnabled(false);
-            screen_.SetCommandFrameEnabled(true);
+                pause(Text);
+            m_screen.setMessEnabled(false);
+            m_screen.setCommandFrameEnabled(true);
             // A paused step reaches the list after the click, not before.
-            LogLine(entry, ComputerRed);
+            logLine(entry, ComputerRed);
         }
     }
     LastEntryKey = key;
@@ -40,19 +40,19 @@ void Game::ListMove(int16_t Side, const std::string& Text)
 // Holds a step of the computer's move on the message bar until Mess is clicked.
 // Other handlers run inside this loop; the commands that could start a second move
 // are shut away in CommandFrame meanwhile.
-void Game::Pause(const std::string& Text)
+void Game::pause(const std::string& Text)
 {
-    screen_.SetMessCaption("Computer move> " + Text + "; click to continue");
+    m_screen.setMessCaption("Computer move> " + Text + "; click to continue");
     WaitingForClick = 1;
-    screen_.SetMessEnabled(true);
-    screen_.SetCommandFrameEnabled(false);
+    m_screen.setMessEnabled(true);
+    m_screen.setCommandFrameEnabled(false);
     while (WaitingForClick != 0)
-        screen_.DoEvents();
+        m_screen.runPendingEvents();
 }
 
-void Game::LogLine(std::string s, int32_t color)
+void Game::logLine(std::string s, int32_t color)
 {
     int16_t ipic = -1;
     std::string font;
-    screen_.MovesList_Additem(s, -1, ipic, font, color);
+    m_screen.movesListAdditem(s, -1, ipic, font, color);
 }

@@ -6,12 +6,7 @@
 
 std::string Game::PotLetter(int16_t Pot) const
 {
-    int code = Pot < 6 ? 65 + Pot : 77 - Pot;
-    // On the turned board the halves have changed places; name each pot by the
-    // letter it stands under on the screen.
-    if (BoardMirrored)
-        code = 135 - code;
-    return std::string(1, static_cast<char>(code));
+    return std::string(1, potLetter(Pot, BoardMirrored));
 }
 
 std::string Game::StrCount(int16_t N)
@@ -24,7 +19,7 @@ std::string Game::StrCount(int16_t N)
 
 void Game::SowPot(int16_t Pot)
 {
-    if (!IsSlot(Pot))
+    if (!isSlot(Pot))
         return;
     const int n = Beads[Pot] > 0 ? Beads[Pot] : 0;
     Beads[Pot] = 0;
@@ -37,39 +32,39 @@ void Game::SowPot(int16_t Pot)
     const int rest = n % SlotCount;
     if (laps > 0)
         for (auto& slot : Beads)
-            slot = ClampCount(slot + laps);
+            slot = clampCount(slot + laps);
     int slot = Pot;
     for (int k = 0; k < rest; ++k) {
         slot = (slot + 1) % SlotCount;
-        Beads[slot] = ClampCount(Beads[slot] + 1);
+        Beads[slot] = clampCount(Beads[slot] + 1);
     }
     CurrentPot = static_cast<int16_t>(rest == 0 ? Pot : slot);
 }
 
 // The last bead fell into an empty pot, on either row, and the pot opposite holds
 // beads. Whose pot it is does not matter.
-bool Game::CaptureHolds() const
+bool Game::captureHolds() const
 {
     const int c = CurrentPot;
-    if (c == ComputerBank || c == HumanBank || !IsSlot(c))
+    if (isBank(c) || !isSlot(c))
         return false;
-    return Beads[c] == 1 && Beads[Opposite(c)] != 0;
+    return Beads[c] == 1 && Beads[opposite(c)] != 0;
 }
 
 // Credits the mover's bank with the opposite pot and the last bead; both pots still
 // hold their beads so that the narration can tell what was taken.
-int16_t Game::CreditCapture()
+int16_t Game::creditCapture()
 {
-    const int16_t taken = Beads[Opposite(CurrentPot)];
-    if (IsSlot(MoverBank))
-        Beads[MoverBank] = ClampCount(Beads[MoverBank] + taken + 1);
+    const int16_t taken = Beads[opposite(CurrentPot)];
+    if (isSlot(MoverBank))
+        Beads[MoverBank] = clampCount(Beads[MoverBank] + taken + 1);
     return taken;
 }
 
-void Game::ClearCapturedPots()
+void Game::clearCapturedPots()
 {
     Beads[CurrentPot] = 0;
-    Beads[Opposite(CurrentPot)] = 0;
+    Beads[opposite(CurrentPot)] = 0;
 }
 
 void Game::CheckRows()
@@ -81,7 +76,7 @@ void Game::CheckRows()
                 return true;
         return false;
     };
-    if (holds(0, 5) && holds(7, 12))
+    if (holds(FirstHumanPot, LastHumanPot) && holds(FirstComputerPot, LastComputerPot))
         GameLive = true;
 }
 
@@ -89,7 +84,7 @@ void Game::CheckRows()
 // the opposite pots stay as they were.
 void Game::SwapSides()
 {
-    for (int i = 7; i <= 12; ++i)
-        std::swap(Beads[i], Beads[i - 7]);
+    for (int i = FirstComputerPot; i <= LastComputerPot; ++i)
+        std::swap(Beads[i], Beads[i - FirstComputerPot]);
     std::swap(Beads[HumanBank], Beads[ComputerBank]);
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-void Game::TakeUndoSnapshot()
+void Game::takeUndoSnapshot()
 {
     std::copy(Beads.begin(), Beads.end(), UndoBeads.begin());
     UndoBeads[14] = RunningTotals[1];
@@ -13,16 +13,16 @@ void Game::TakeUndoSnapshot()
 // the taken-back lines; the undo line follows them.
 void Game::Undox_Click()
 {
-    if (GameFinished || Busy())
+    if (GameFinished || busy())
         return;
     for (int16_t s = 0; s < SlotCount; ++s) {
         Beads[s] = UndoBeads[s];
-        screen_.RefreshPot(s);
+        RefreshPot(s);
     }
     RunningTotals[1] = UndoBeads[14];
     RunningTotals[2] = UndoBeads[15];
-    WriteTotals();
+    writeTotals();
     std::string line = "UNDO LAST HUMAN/COMPUTER MOVE";
-    screen_.MovesList_Additem(line, -1);
-    screen_.SetUndoxEnabled(false);
+    m_screen.movesListAdditem(line, -1);
+    m_screen.setUndoxEnabled(false);
 }

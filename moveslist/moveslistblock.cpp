@@ -1,6 +1,7 @@
 #include "moveslist/moveslistblock.h"
 
 #include "moveslist/lbblock.h"
+#include "moveslist/usercontrol1.h"
 
 QByteArray MovesListBlock()
 {
@@ -15,4 +16,13 @@ QByteArray MovesListBlock()
              0xB35657BBu});
     bag.add({QStringLiteral("fontsize"), PropertyType::Single, 8.25, {}, 0x9354B93Bu});
     return lbblock::Write(bag);
+}
+
+void setUpMovesLog(UserControl1& list)
+{
+    list.DropDownHeight(3750);
+    list.Mode(0);
+    list.BorderStyle(0);
+    list.GridLines(true);
+    list.ToolTip(true);
 }

@@ -6,3 +6,9 @@
 // hundredths of a millimetre) and the font the form recorded with it. The window
 // loads the log with UserControl1::FromBlock(MovesListBlock(), this).
 QByteArray MovesListBlock();
+
+class UserControl1;
+
+// What the game sets on its log at the start: the drop-down's height, plain-list mode,
+// no border, grid lines and the hover tip.
+void setUpMovesLog(UserControl1& list);

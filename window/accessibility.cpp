@@ -9,9 +9,9 @@
 
 // What a screen reader says of the board. Nothing on the screen changes for it.
 
-void Form1::DescribePot(int16_t Slot)
+void Form1::describePot(int16_t Slot)
 {
-    if (!IsSlot(Slot))
+    if (!isSlot(Slot))
         return;
     Quillet* pot = Pots[Slot];
     const int count = static_cast<int>(NumericRead(pot->Tag().toStdString()));
@@ -24,7 +24,7 @@ void Form1::DescribePot(int16_t Slot)
         name = QStringLiteral("Computer's bank, %1").arg(beads);
     else
         name = QStringLiteral("Pot %1, %2, %3")
-                   .arg(QChar(Slot < 6 ? 'A' + Slot : 'A' + (12 - Slot)))
+                   .arg(QChar(potLetter(Slot, false)))
                    .arg(Slot < 6 ? QStringLiteral("yours") : QStringLiteral("computer's"))
                    .arg(beads);
     if (pot->accessibleName() == name)
@@ -34,14 +34,14 @@ void Form1::DescribePot(int16_t Slot)
     QAccessible::updateAccessibility(&changed);
 }
 
-void Form1::DescribeTotal(int16_t Index)
+void Form1::describeTotal(int16_t Index)
 {
     const QString whose =
         Index == 1 ? QStringLiteral("Computer's total") : QStringLiteral("Your total");
     TotalB[Index]->setAccessibleName(QStringLiteral("%1, %2").arg(whose, TotalB[Index]->text()));
 }
 
-void Form1::DescribeButton(Quillet* button)
+void Form1::describeButton(Quillet* button)
 {
     button->setAccessibleName(button->caption());
     button->setAccessibleDescription(button->toolTip());
@@ -49,20 +49,20 @@ void Form1::DescribeButton(Quillet* button)
 
 // The keyboard's selection shows nowhere on the screen. A screen reader hears it as the
 // focus moving to that pot, and finds it in the pot's description.
-void Form1::AnnounceKeyboardPot()
+void Form1::announceKeyboardPot()
 {
-    const int16_t selected = game_.KeyboardPot;
+    const int16_t selected = m_game.state().KeyboardPot;
     for (int16_t s = 0; s <= 5; ++s)
         Pots[s]->setAccessibleDescription(s == selected ? QStringLiteral("Selected: Enter plays it")
                                                         : QString());
-    if (!IsHumanPot(selected))
+    if (!isHumanPot(selected))
         return;
     QAccessibleEvent focus(Pots[selected], QAccessible::Focus);
     QAccessible::updateAccessibility(&focus);
 }
 
 // The log's colours say whose move a row is; a screen reader says it in words.
-void Form1::VoiceMovesList()
+void Form1::voiceMovesList()
 {
     MovesList->setAccessibleName(QStringLiteral("Moves"));
     MovesList->setRowVoice([](const QString& text, int32_t colour) {

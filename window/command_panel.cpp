@@ -7,41 +7,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
-#include <QSlider>
 
 #include <cstdio>
 #include <cstdlib>
-
-void Form1::StartBeads_Change()
-{
-    // The count cannot change under a computer's move that is waiting for a click.
-    if (game_.Busy()) {
-        const QSignalBlocker quiet(StartBeads);
-        StartBeads->setValue(game_.StartBeadCount);
-        return;
-    }
-    const int value = StartBeads->value();
-    Label2->setText(QStringLiteral("Start with %1 beads").arg(value));
-    game_.StartBeadCount = static_cast<int16_t>(value);
-    game_.LayOutBoard(game_.StartBeadCount);
-    for (int16_t s = 0; s < SlotCount; ++s)
-        RefreshPot(s);
-}
-
-// The caption names the mode in force, not what a click would do.
-void Form1::Pausex_Click()
-{
-    if (game_.PauseAtMoves) {
-        game_.PauseAtMoves = false;
-        Pausex->caption(QStringLiteral("Do not pause"));
-        DescribeButton(Pausex);
-    } else {
-        game_.PauseAtMoves = true;
-        Pausex->caption(QStringLiteral("Pause at moves"));
-        DescribeButton(Pausex);
-    }
-}
 
 void Form1::Scorex_MouseUp(int16_t, int16_t, float, float)
 {
@@ -56,12 +24,12 @@ void Form1::Helpx_Click()
     if (!path.endsWith(QLatin1Char('/')))
         path += QLatin1Char('/');
     path += QStringLiteral("tavok.htm");
-    if (!helpForm_)
-        helpForm_ = new HelpForm();
-    helpForm_->Tag(path);
-    helpForm_->show();
-    helpForm_->raise();
-    helpForm_->activateWindow();
+    if (!m_helpForm)
+        m_helpForm = new HelpForm();
+    m_helpForm->Tag(path);
+    m_helpForm->show();
+    m_helpForm->raise();
+    m_helpForm->activateWindow();
 }
 
 void Form1::Aboutx_Click()
@@ -87,10 +55,10 @@ void Form1::Form_Unload()
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window != this && window->isWindow())
             window->close();
-    if (helpForm_)
-        delete helpForm_;
+    if (m_helpForm)
+        delete m_helpForm;
     hide();
-    if (game_.WaitingForClick != 0) {
+    if (m_game.state().WaitingForClick != 0) {
         std::fflush(nullptr);
         std::_Exit(0);
     }

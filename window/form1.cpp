@@ -71,9 +71,9 @@ Form1::Form1(QWidget* parent) : QWidget(parent)
     // Mouse moves over the bare surface end a hover look.
     setMouseTracking(true);
 
-    CreateControls();
-    ConnectHandlers();
-    SetTabOrder();
+    createControls();
+    connectHandlers();
+    orderTabs();
     qApp->installEventFilter(this);
     Form_Load();
 
@@ -132,9 +132,9 @@ static void SetTextColors(QLabel* label, const QColor& text, const QColor& back)
     label->setPalette(palette);
 }
 
-void Form1::CreateControls()
+void Form1::createControls()
 {
-    CreateCommandPanel();
+    createCommandPanel();
 
     Score1 = new Marlets::Marlet(this);
     Score1->setObjectName(QStringLiteral("Score1"));
@@ -148,7 +148,7 @@ void Form1::CreateControls()
     MovesList->setParent(this);
     MovesList->setObjectName(QStringLiteral("MovesList"));
     MovesList->setGeometry(PxRect(Layout::MovesList));
-    VoiceMovesList();
+    voiceMovesList();
 
     Hand = new Quillet(this);
     Hand->setObjectName(QStringLiteral("Hand"));
@@ -178,7 +178,7 @@ void Form1::CreateControls()
     Mess->setFont(SansSerifFont(false));
     Mess->enabled(false);
 
-    CreateBoard();
+    createBoard();
 
     Label2 = MakeLabel(this, "Label2", QStringLiteral("Label2"));
     Label2->setGeometry(PxRect(Layout::Label2));
@@ -190,7 +190,7 @@ void Form1::CreateControls()
     Score1->raise();
 }
 
-void Form1::CreateBoard()
+void Form1::createBoard()
 {
     // The hidden pictures that hold the raised discs the pots take their faces from.
     Image4 = MakeLabel(this, "Image4", {});
@@ -220,7 +220,7 @@ void Form1::CreateBoard()
         else
             pot->picture(s < 6 ? greenRaised : redRaised);
         // The computer's pots are stored disabled: they take the mouse only after a restart.
-        pot->enabled(!IsComputerPot(s));
+        pot->enabled(!isComputerPot(s));
         Pots[s] = pot;
     }
 
@@ -280,7 +280,7 @@ static QGroupBox* MakeFrame(QWidget* parent, const char* name)
     return frame;
 }
 
-void Form1::CreateCommandPanel()
+void Form1::createCommandPanel()
 {
     Frame2 = MakeFrame(this, "Frame2");
     Frame2->setGeometry(PxRect(Layout::Frame2));
@@ -295,7 +295,7 @@ void Form1::CreateCommandPanel()
         MakePlainButton(q, caption);
         if (!tip.isEmpty())
             q->setToolTip(tip);
-        DescribeButton(q);
+        describeButton(q);
         return q;
     };
     Quitx = button(Frame2, "Quitx", Layout::Quitx, QStringLiteral("Exit"), {});
@@ -313,39 +313,41 @@ void Form1::CreateCommandPanel()
                       QStringLiteral("Click down to get a hint for the next move"));
 }
 
-void Form1::ConnectHandlers()
+void Form1::connectHandlers()
 {
     for (int16_t s = 0; s < SlotCount; ++s) {
-        connect(
-            Pots[s], &Quillet::MouseMove, this,
-            [this, s](int16_t b, int16_t sh, float x, float y) { Pots_MouseMove(s, b, sh, x, y); });
-        connect(
-            Pots[s], &Quillet::MouseDown, this,
-            [this, s](int16_t b, int16_t sh, float x, float y) { Pots_MouseDown(s, b, sh, x, y); });
+        connect(Pots[s], &Quillet::MouseMove, this,
+                [this, s](int16_t b, int16_t sh, float x, float y) {
+                    m_game.Pots_MouseMove(s, b, sh, x, y);
+                });
+        connect(Pots[s], &Quillet::MouseDown, this,
+                [this, s](int16_t b, int16_t sh, float x, float y) {
+                    m_game.Pots_MouseDown(s, b, sh, x, y);
+                });
         connect(Pots[s], &Quillet::MouseUp, this,
                 [this, s](int16_t b, int16_t sh, float x, float y) {
-                    game_.Pots_MouseUp(s, b, sh, x, y);
+                    m_game.Pots_MouseUp(s, b, sh, x, y);
                 });
     }
-    connect(Mess, &Quillet::Click, this, [this] { game_.Mess_Click(); });
-    connect(Undox, &Quillet::Click, this, [this] { game_.Undox_Click(); });
-    connect(Pausex, &Quillet::Click, this, &Form1::Pausex_Click);
-    connect(TakeComp, &Quillet::Click, this, [this] { game_.TakeComp_Click(); });
+    connect(Mess, &Quillet::Click, this, [this] { m_game.Mess_Click(); });
+    connect(Undox, &Quillet::Click, this, [this] { m_game.Undox_Click(); });
+    connect(Pausex, &Quillet::Click, this, [this] { m_game.Pausex_Click(); });
+    connect(TakeComp, &Quillet::Click, this, [this] { m_game.TakeComp_Click(); });
     connect(GiveHint, &Quillet::MouseDown, this, [this](int16_t b, int16_t sh, float x, float y) {
-        game_.GiveHint_MouseDown(b, sh, x, y);
+        m_game.GiveHint_MouseDown(b, sh, x, y);
     });
     connect(GiveHint, &Quillet::MouseUp, this, [this](int16_t b, int16_t sh, float x, float y) {
-        game_.GiveHint_MouseUp(b, sh, x, y);
+        m_game.GiveHint_MouseUp(b, sh, x, y);
     });
     connect(Scorex, &Quillet::MouseUp, this, &Form1::Scorex_MouseUp);
     connect(Helpx, &Quillet::Click, this, &Form1::Helpx_Click);
     connect(Aboutx, &Quillet::Click, this, &Form1::Aboutx_Click);
     connect(Quitx, &Quillet::Click, this, &Form1::Quitx_Click);
-    connect(StartBeads, &QSlider::valueChanged, this, &Form1::StartBeads_Change);
+    connect(StartBeads, &QSlider::valueChanged, this, [this] { m_game.StartBeads_Change(); });
 }
 
 // Of the controls that can take the focus, the slider comes first, then the log.
-void Form1::SetTabOrder()
+void Form1::orderTabs()
 {
     for (QWidget* w : findChildren<QWidget*>())
         if (w != StartBeads && w != MovesList && !MovesList->isAncestorOf(w))
@@ -354,26 +356,14 @@ void Form1::SetTabOrder()
     StartBeads->setFocus();
 }
 
+// The score board is the window's own; the game sets up the rest, and tells the
+// screen in their turn the slider, its label and the log's look.
 void Form1::Form_Load()
 {
     Score1->ScoreTitle(QStringLiteral("Tavok"));
     Score1->ScoreOptionB(true);
     Score1->ScoreOptionA(true);
-    game_.StartBeadCount = 3;
-    game_.EntryNumber = 0;
-    // The slider stood at 99, so this lays out the board through StartBeads_Change.
-    StartBeads->setValue(game_.StartBeadCount);
-    Label2->setText(QStringLiteral("Start with %1 beads").arg(game_.StartBeadCount));
-    game_.ResetForLoad();
-    Text1->hide();
-    game_.NewGame();
-    game_.UpdateBoard();
-    MovesList->DropDownHeight(3750);
-    MovesList->Mode(0);
-    MovesList->BorderStyle(0);
-    MovesList->GridLines(true);
-    MovesList->ToolTip(true);
-    game_.LogOpeningLines();
+    m_game.Form_Load();
 }
 
 void Form1::paintEvent(QPaintEvent*)
@@ -400,7 +390,7 @@ void Form1::paintEvent(QPaintEvent*)
 }
 
 // Totals grow over many games; a long one steps its font down rather than lose digits.
-void Form1::FitTotal(QLabel* total)
+void Form1::fitTotal(QLabel* total)
 {
     QFont font = ArialFont(14.25, true);
     const int room = total->contentsRect().width() - 2;
@@ -411,83 +401,105 @@ void Form1::FitTotal(QLabel* total)
 
 // GameScreen: what the game needs of the window.
 
-std::string Form1::PotTag(int16_t Index) const
+std::string Form1::potTag(int16_t Index) const
 {
-    if (!IsSlot(Index))
+    if (!isSlot(Index))
         return {};
     return Pots[Index]->Tag().toStdString();
 }
 
-void Form1::SetPotEnabled(int16_t Slot, bool Enabled)
+void Form1::setPotEnabled(int16_t Slot, bool Enabled)
 {
-    if (IsSlot(Slot))
+    if (isSlot(Slot))
         Pots[Slot]->enabled(Enabled);
 }
 
-void Form1::SetMessCaption(const std::string& Caption)
+void Form1::setMessCaption(const std::string& Caption)
 {
     Mess->caption(FromStd(Caption));
     Mess->setAccessibleName(Mess->caption());
 }
-void Form1::SetMessEnabled(bool Enabled)
+void Form1::setMessEnabled(bool Enabled)
 {
     Mess->enabled(Enabled);
 }
-void Form1::ShowMess()
+void Form1::showMess()
 {
     Mess->Visible(true);
 }
-void Form1::SetUndoxEnabled(bool Enabled)
+void Form1::setUndoxEnabled(bool Enabled)
 {
     Undox->enabled(Enabled);
 }
-void Form1::SetCommandFrameEnabled(bool Enabled)
+void Form1::setCommandFrameEnabled(bool Enabled)
 {
     CommandFrame->setEnabled(Enabled);
 }
-void Form1::SetStartBeadsEnabled(bool Enabled)
+void Form1::setPausexCaption(const std::string& Caption)
+{
+    Pausex->caption(FromStd(Caption));
+    describeButton(Pausex);
+}
+void Form1::setStartBeadsEnabled(bool Enabled)
 {
     StartBeads->setEnabled(Enabled);
 }
-void Form1::SetHandLeft(float Left)
+int16_t Form1::startBeadsValue() const
+{
+    return static_cast<int16_t>(StartBeads->value());
+}
+void Form1::setStartBeadsValue(int16_t Value)
+{
+    StartBeads->setValue(Value);
+}
+void Form1::setLabel2Caption(const std::string& Caption)
+{
+    Label2->setText(FromStd(Caption));
+}
+void Form1::setHandLeft(float Left)
 {
     Hand->Left(Left);
 }
-void Form1::SetHandTop(float Top)
+void Form1::setHandTop(float Top)
 {
     Hand->Top(Top);
 }
-void Form1::SetHandVisible(bool Visible)
+void Form1::setHandVisible(bool Visible)
 {
     Hand->Visible(Visible);
 }
-bool Form1::HandVisible() const
+bool Form1::handVisible() const
 {
     return Hand->Visible();
 }
 
 // The letters never move: their places in the table are their places on the screen.
-float Form1::PotNameLeft(int16_t Index) const
+float Form1::potNameLeft(int16_t Index) const
 {
     return Index >= 0 && Index < 6 ? static_cast<float>(Layout::PotNameLeft[Index]) : 0.f;
 }
 
-float Form1::PotNameTop(int16_t) const
+float Form1::potNameTop(int16_t) const
 {
     return static_cast<float>(Layout::PotNameTop);
 }
 
-void Form1::SetTotalBCaption(int16_t Index, const std::string& Caption)
+void Form1::setTotalBCaption(int16_t Index, const std::string& Caption)
 {
     if (Index == 1 || Index == 2) {
         TotalB[Index]->setText(FromStd(Caption));
-        FitTotal(TotalB[Index]);
-        DescribeTotal(Index);
+        fitTotal(TotalB[Index]);
+        describeTotal(Index);
     }
 }
 
-void Form1::MovesList_Additem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
-                              int32_t& ItemColor)
+void Form1::setUpMovesList()
+{
+    setUpMovesLog(*MovesList);
+}
+
+void Form1::movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
+                             int32_t& ItemColor)
 {
     QString text = FromStd(s);
     QString font = FromStd(ItemFont);
@@ -500,7 +512,7 @@ void Form1::MovesList_Additem(std::string& s, int16_t itemx, int16_t& ipic, std:
     ItemFont = font.toStdString();
 }
 
-void Form1::MovesList_Additem(std::string& s, int16_t itemx)
+void Form1::movesListAdditem(std::string& s, int16_t itemx)
 {
     QString text = FromStd(s);
     try {
@@ -510,24 +522,24 @@ void Form1::MovesList_Additem(std::string& s, int16_t itemx)
     s = text.toStdString();
 }
 
-void Form1::MovesList_Clear()
+void Form1::movesListClear()
 {
     MovesList->Clear();
 }
-void Form1::Score1_ScoreWin(bool Value)
+void Form1::scoreWin(bool Value)
 {
     Score1->ScoreWin(Value);
 }
-void Form1::Score1_ScoreDraw(bool Value)
+void Form1::scoreDraw(bool Value)
 {
     Score1->ScoreDraw(Value);
 }
 
 // The pause sleeps on the event queue rather than spinning a core.
-void Form1::DoEvents()
+void Form1::runPendingEvents()
 {
-    if (pauseHook_)
-        pauseHook_();
+    if (m_pauseHook)
+        m_pauseHook();
     else
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

@@ -28,50 +28,47 @@ public:
     explicit Form1(QWidget* parent = nullptr);
     ~Form1() override;
 
-    Game& game() { return game_; }
-    const Game& game() const { return game_; }
+    // The game behind the window. The window only reads its state; tools and tests
+    // reach its handlers here.
+    Game& game() { return m_game; }
+    const Game& game() const { return m_game; }
 
     // Run at every wait of a pause instead of blocking on the event queue; the trace
     // tool clicks Mess from here.
-    void setPauseHook(std::function<void()> hook) { pauseHook_ = std::move(hook); }
+    void setPauseHook(std::function<void()> hook) { m_pauseHook = std::move(hook); }
 
     // GameScreen
-    void RefreshPot(int16_t Slot) override;
-    std::string PotTag(int16_t Index) const override;
-    void SetPotEnabled(int16_t Slot, bool Enabled) override;
-    void SetMessCaption(const std::string& Caption) override;
-    void SetMessEnabled(bool Enabled) override;
-    void ShowMess() override;
-    void SetUndoxEnabled(bool Enabled) override;
-    void SetCommandFrameEnabled(bool Enabled) override;
-    void SetStartBeadsEnabled(bool Enabled) override;
-    void SetHandLeft(float Left) override;
-    void SetHandTop(float Top) override;
-    void SetHandVisible(bool Visible) override;
-    bool HandVisible() const override;
-    float PotNameLeft(int16_t Index) const override;
-    float PotNameTop(int16_t Index) const override;
-    void SetTotalBCaption(int16_t Index, const std::string& Caption) override;
-    void MovesList_Additem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
-                           int32_t& ItemColor) override;
-    void MovesList_Additem(std::string& s, int16_t itemx) override;
-    void MovesList_Clear() override;
-    void Score1_ScoreWin(bool Value) override;
-    void Score1_ScoreDraw(bool Value) override;
-    void DoEvents() override;
+    void DrawPot(int16_t Pot, const std::string& Text) override;
+    void DrawPotHot(int16_t Pot, const std::string& Text) override;
+    std::string potTag(int16_t Index) const override;
+    void setPotEnabled(int16_t Slot, bool Enabled) override;
+    void setMessCaption(const std::string& Caption) override;
+    void setMessEnabled(bool Enabled) override;
+    void showMess() override;
+    void setUndoxEnabled(bool Enabled) override;
+    void setCommandFrameEnabled(bool Enabled) override;
+    void setPausexCaption(const std::string& Caption) override;
+    void setStartBeadsEnabled(bool Enabled) override;
+    int16_t startBeadsValue() const override;
+    void setStartBeadsValue(int16_t Value) override;
+    void setLabel2Caption(const std::string& Caption) override;
+    void setHandLeft(float Left) override;
+    void setHandTop(float Top) override;
+    void setHandVisible(bool Visible) override;
+    bool handVisible() const override;
+    float potNameLeft(int16_t Index) const override;
+    float potNameTop(int16_t Index) const override;
+    void setTotalBCaption(int16_t Index, const std::string& Caption) override;
+    void setUpMovesList() override;
+    void movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
+                          int32_t& ItemColor) override;
+    void movesListAdditem(std::string& s, int16_t itemx) override;
+    void movesListClear() override;
+    void scoreWin(bool Value) override;
+    void scoreDraw(bool Value) override;
+    void runPendingEvents() override;
 
-    // Board view
-    void DrawPot(int16_t& Pot, QString& Text);
-    void DrawPotHot(int16_t& Pot, QString& Text);
-    void Pots_MouseMove(int16_t Index, int16_t Button, int16_t Shift, float X, float Y);
-    void Form_MouseMove(int16_t Button, int16_t Shift, float X, float Y);
-
-    // Move preview
-    void Pots_MouseDown(int16_t Index, int16_t Button, int16_t Shift, float X, float Y);
-
-    // Command panel
-    void StartBeads_Change();
-    void Pausex_Click();
+    // Command panel: the commands that do not touch the game
     void Scorex_MouseUp(int16_t Button, int16_t Shift, float X, float Y);
     void Helpx_Click();
     void Aboutx_Click();
@@ -84,22 +81,22 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void FitTotal(QLabel* total);
-    void DescribePot(int16_t Slot);
-    void DescribeTotal(int16_t Index);
-    void DescribeButton(Quillet* button);
-    void AnnounceKeyboardPot();
-    void VoiceMovesList();
-    void CreateControls();
-    void CreateBoard();
-    void CreateCommandPanel();
-    void ConnectHandlers();
-    void SetTabOrder();
+    void fitTotal(QLabel* total);
+    void describePot(int16_t Slot);
+    void describeTotal(int16_t Index);
+    void describeButton(Quillet* button);
+    void announceKeyboardPot();
+    void voiceMovesList();
+    void createControls();
+    void createBoard();
+    void createCommandPanel();
+    void connectHandlers();
+    void orderTabs();
     void Form_Load();
     void Form_Unload();
 
-    Game game_{*this};
-    std::function<void()> pauseHook_;
+    Game m_game{*this};
+    std::function<void()> m_pauseHook;
 
     QGroupBox* Frame2 = nullptr;
     Quillet* Quitx = nullptr;
@@ -127,5 +124,5 @@ private:
     QLabel* Label2 = nullptr;
     QLabel* Image4 = nullptr;
     QLabel* Image3 = nullptr;
-    QPointer<HelpForm> helpForm_;
+    QPointer<HelpForm> m_helpForm;
 };

@@ -20,9 +20,9 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
     if (target != (focus && focus->window() == this ? focus : this))
         return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    const int16_t before = game_.KeyboardPot;
-    game_.Form_KeyDown(KeyNumber(*key), 0);
-    if (game_.KeyboardPot != before)
-        AnnounceKeyboardPot();
+    const int16_t before = m_game.state().KeyboardPot;
+    m_game.Form_KeyDown(KeyNumber(*key), 0);
+    if (m_game.state().KeyboardPot != before)
+        announceKeyboardPot();
     return false;
 }

@@ -69,13 +69,13 @@ class ComputerTurn : public GameTest, public ::testing::WithParamInterface<Turn>
 TEST_P(ComputerTurn, PlaysTheBestPotAndNarratesEachStepInRed)
 {
     const Turn& turn = GetParam();
-    game.Beads = ParseBoard(turn.board);
+    state.Beads = parseBoard(turn.board);
     game.ComputerMove();
-    EXPECT_EQ(Board(), turn.after);
-    EXPECT_EQ(Moves(), turn.lines);
+    EXPECT_EQ(board(), turn.after);
+    EXPECT_EQ(moves(), turn.lines);
     for (size_t i = 0; i < turn.lines.size(); ++i)
         EXPECT_EQ(screen.log[i].color, ComputerRed);
-    EXPECT_NE(game.CurrentPot, ComputerBank);
+    EXPECT_NE(state.CurrentPot, ComputerBank);
 }
 
 INSTANTIATE_TEST_SUITE_P(Positions, ComputerTurn, ::testing::ValuesIn(turns),
@@ -88,15 +88,15 @@ TEST_F(ComputerMove, WorkedExamplesScoreEveryPotAndPutTheBoardBack)
     for (const Turn& turn : turns) {
         if (turn.scores.empty())
             continue;
-        game.Beads = ParseBoard(turn.board);
-        const auto before = game.Beads;
-        game.SavedBeads = game.Beads;
+        state.Beads = parseBoard(turn.board);
+        const auto before = state.Beads;
+        state.SavedBeads = state.Beads;
         for (int16_t pot = 7; pot <= 12; ++pot) {
             const auto it = turn.scores.find(pot);
             if (it == turn.scores.end())
                 continue;
-            EXPECT_EQ(game.EvaluatePot(pot), it->second) << turn.name << " pot " << pot;
-            EXPECT_EQ(game.Beads, before) << turn.name << " pot " << pot;
+            EXPECT_EQ(game.evaluatePot(pot), it->second) << turn.name << " pot " << pot;
+            EXPECT_EQ(state.Beads, before) << turn.name << " pot " << pot;
         }
     }
 }
@@ -115,17 +115,17 @@ TEST_F(ComputerMove, AgreesWithThePlainReadingOfTheRulesOnRandomBoards)
         if (ref::Choose(b) < 0)
             b[7 + random() % 6] = 1 + count(random);
         for (int s = 0; s < 14; ++s)
-            game.Beads[s] = static_cast<int16_t>(b[s]);
-        game.SavedBeads = game.Beads;
+            state.Beads[s] = static_cast<int16_t>(b[s]);
+        state.SavedBeads = state.Beads;
         for (int16_t p = 7; p <= 12; ++p) {
             if (b[p] > 0) {
-                ASSERT_EQ(game.EvaluatePot(p), ref::Score(b, p)) << "round " << round;
+                ASSERT_EQ(game.evaluatePot(p), ref::Score(b, p)) << "round " << round;
             }
         }
-        ASSERT_EQ(game.Beads, game.SavedBeads);
+        ASSERT_EQ(state.Beads, state.SavedBeads);
         game.ComputerMove();
         ref::ComputerTurn(b);
         for (int s = 0; s < 14; ++s)
-            ASSERT_EQ(game.Beads[s], b[s]) << "round " << round << " slot " << s;
+            ASSERT_EQ(state.Beads[s], b[s]) << "round " << round << " slot " << s;
     }
 }

@@ -30,12 +30,12 @@ class GameEnding : public GameTest, public ::testing::WithParamInterface<Ending>
 TEST_P(GameEnding, OnlyTheBanksCount)
 {
     const Ending& ending = GetParam();
-    SetBoard(ending.board);
-    Click(5);
+    setBoard(ending.board);
+    click(5);
 
     EXPECT_EQ(screen.messCaption, std::string(ending.result) + " - click here to restart");
     EXPECT_TRUE(screen.messEnabled);
-    EXPECT_EQ(Moves(), (std::vector<std::string>{"#001>Move   1 from F", ending.result}));
+    EXPECT_EQ(moves(), (std::vector<std::string>{"#001>Move   1 from F", ending.result}));
     EXPECT_EQ(screen.log[0].color, -1) << "the result line takes the list's own colour";
     EXPECT_EQ(screen.scoreWins, ending.wins);
     EXPECT_EQ(screen.scoreLosses, ending.losses);
@@ -46,7 +46,7 @@ TEST_P(GameEnding, OnlyTheBanksCount)
                             [&](auto& c) { return c.starts_with(call); });
     };
     EXPECT_LT(at("score:"), at(std::string("add:") + ending.result));
-    EXPECT_EQ(game.EntryNumber, 0);
+    EXPECT_EQ(state.EntryNumber, 0);
     EXPECT_EQ(screen.tags[7], "2") << "the pots still show what is left";
 }
 
@@ -57,11 +57,11 @@ using Controller = GameTest;
 
 TEST_F(Controller, AReplyThatSpendsARowEndsWithoutYourMoveNow)
 {
-    SetBoard("1 0 0 0 0 1 |0| 0 0 0 0 0 1 |0");
+    setBoard("1 0 0 0 0 1 |0| 0 0 0 0 0 1 |0");
     screen.calls.clear();
-    Click(0);
-    EXPECT_TRUE(game.GameFinished);
-    EXPECT_TRUE(screen.CallsStartingWith("mess:YOUR MOVE NOW").empty());
+    click(0);
+    EXPECT_TRUE(state.GameFinished);
+    EXPECT_TRUE(screen.callsStartingWith("mess:YOUR MOVE NOW").empty());
     EXPECT_EQ(screen.messCaption, "COMPUTER WINS BY  1 POINTS - click here to restart");
     // The human's pots still hold beads, yet take no more clicks.
     for (int s = 0; s <= 5; ++s)
@@ -70,10 +70,10 @@ TEST_F(Controller, AReplyThatSpendsARowEndsWithoutYourMoveNow)
 
 TEST_F(Controller, BadPicksAndEventsFromNowhereChangeNothing)
 {
-    SetBoard("3 0 3 3 3 3 |0| 3 3 3 3 3 3 |0");
-    const auto board = game.Beads;
+    setBoard("3 0 3 3 3 3 |0| 3 3 3 3 3 3 |0");
+    const auto board = state.Beads;
     for (const char* pick : {"0", "7", "-1", "", "abc", "99999", "1e9", "2"}) {
-        game.Text1 = pick;
+        state.Text1 = pick;
         int16_t result = 0;
         game.HumanMove(result);
         EXPECT_EQ(result, -1) << "pick '" << pick << "'";
@@ -82,15 +82,15 @@ TEST_F(Controller, BadPicksAndEventsFromNowhereChangeNothing)
         for (int16_t button : {1, 2})
             game.Pots_MouseUp(index, button, 0, 0, 0);
     screen.tags[3] = "";
-    Click(3); // a pot whose face shows nothing takes no move
-    EXPECT_EQ(game.Beads, board);
-    EXPECT_TRUE(Moves().empty());
+    click(3); // a pot whose face shows nothing takes no move
+    EXPECT_EQ(state.Beads, board);
+    EXPECT_TRUE(moves().empty());
     EXPECT_FALSE(screen.undoxEnabled);
 
     // A pick may come with blanks before it, as any number read by the game.
-    game.Text1 = " 3";
+    state.Text1 = " 3";
     int16_t result = -1;
     game.HumanMove(result);
     EXPECT_EQ(result, 0);
-    EXPECT_EQ(Moves().front(), "#001>Move   3 from C");
+    EXPECT_EQ(moves().front(), "#001>Move   3 from C");
 }

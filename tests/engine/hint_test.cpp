@@ -26,8 +26,8 @@ using ForcedTurn = GameTest;
 // played, all of it is green and numbered and never pauses; the reply pauses.
 TEST_F(ForcedTurn, OnlyTheMoveLinesSayTheComputerPlayedAndOnlyTheReplyPauses)
 {
-    SetBoard("0 5 0 3 0 1 |0| 3 3 3 3 3 3 |0");
-    game.PauseAtMoves = true;
+    setBoard("0 5 0 3 0 1 |0| 3 3 3 3 3 3 |0");
+    state.PauseAtMoves = true;
     game.TakeComp_Click();
 
     bool sawExtra = false, sawCapture = false;
@@ -43,18 +43,18 @@ TEST_F(ForcedTurn, OnlyTheMoveLinesSayTheComputerPlayedAndOnlyTheReplyPauses)
     EXPECT_TRUE(sawCapture);
     const auto red = std::distance(line, screen.log.rend());
     EXPECT_GT(red, 0);
-    EXPECT_EQ(screen.doEventsCalls, red);
+    EXPECT_EQ(screen.pendingEventRuns, red);
 }
 
 // F's one bead falls in the human's bank and spends the row: the extra move is told,
 // the next pass finds nothing to sow, and the game ends with no reply.
 TEST_F(ForcedTurn, SpendingARowEndsTheGameBeforeTheReply)
 {
-    SetBoard("0 0 0 0 0 1 |0| 1 0 0 0 0 0 |0");
+    setBoard("0 0 0 0 0 1 |0| 1 0 0 0 0 0 |0");
     game.TakeComp_Click();
-    EXPECT_TRUE(game.GameFinished);
+    EXPECT_TRUE(state.GameFinished);
     EXPECT_EQ(screen.messCaption, "YOU WIN BY  1 POINTS - click here to restart");
-    EXPECT_EQ(Moves(), (std::vector<std::string>{"#001>Move   1 from F - computer played",
+    EXPECT_EQ(moves(), (std::vector<std::string>{"#001>Move   1 from F - computer played",
                                                  "#002>Last entry into the bank; move again",
                                                  "YOU WIN BY  1 POINTS"}));
 }
@@ -65,31 +65,31 @@ using Hint = GameTest;
 // line only and points at its first pot; it never pauses and puts everything back.
 TEST_F(Hint, AChainShowsItsEndButListsAndPointsAtItsFirstMove)
 {
-    const char* board = "0 0 0 3 0 1 |0| 3 3 3 3 3 3 |0";
-    SetBoard(board);
-    const ref::Ring shown = AdvisedPosition(game.Beads);
-    game.PauseAtMoves = true;
-    HintDown();
+    const char* start = "0 0 0 3 0 1 |0| 3 3 3 3 3 3 |0";
+    setBoard(start);
+    const ref::Ring shown = AdvisedPosition(state.Beads);
+    state.PauseAtMoves = true;
+    hintDown();
 
-    EXPECT_EQ(Moves(), (std::vector<std::string>{"HINT: Move   1 from F"}));
+    EXPECT_EQ(moves(), (std::vector<std::string>{"HINT: Move   1 from F"}));
     EXPECT_EQ(screen.log[0].color, HintBlack);
-    EXPECT_EQ(game.EntryNumber, 0);
-    EXPECT_EQ(screen.handLeft, RecordingScreen::potNameLeft[5]);
-    EXPECT_EQ(screen.handTop, RecordingScreen::potNameTop);
-    EXPECT_EQ(game.HintPotShown, 12);
+    EXPECT_EQ(state.EntryNumber, 0);
+    EXPECT_EQ(screen.handLeft, RecordingScreen::letterLeft[5]);
+    EXPECT_EQ(screen.handTop, RecordingScreen::letterTop);
+    EXPECT_EQ(state.HintPotShown, 12);
     for (int s = 0; s < SlotCount; ++s) {
         const std::string face =
-            shown[s] == 0 && !IsBank(s) ? std::string() : std::to_string(shown[s]);
+            shown[s] == 0 && !isBank(s) ? std::string() : std::to_string(shown[s]);
         EXPECT_EQ(screen.tags[s], face) << "slot " << s;
     }
     EXPECT_EQ(screen.totalB[2], std::to_string(shown[HumanBank]));
     EXPECT_TRUE(screen.potEnabled[0]) << "human pots stay enabled while a hint shows";
-    ExpectNoMoveStarts();
+    expectNoMoveStarts();
 
-    HintUp();
-    EXPECT_EQ(Board(), board);
+    hintUp();
+    EXPECT_EQ(board(), start);
     EXPECT_FALSE(screen.potEnabled[0]);
-    EXPECT_FALSE(screen.handVisible);
-    EXPECT_TRUE(game.PauseAtMoves);
-    EXPECT_EQ(screen.doEventsCalls, 0);
+    EXPECT_FALSE(screen.handShown);
+    EXPECT_TRUE(state.PauseAtMoves);
+    EXPECT_EQ(screen.pendingEventRuns, 0);
 }

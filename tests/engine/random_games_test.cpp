@@ -11,20 +11,21 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
     std::mt19937 random(1234);
     RecordingScreen screen;
     Game game(screen);
-    screen.game = &game;
+    GameState& state = game.stateForTests();
+    screen.onPendingEvents = [&] { game.Mess_Click(); };
+    screen.onStartBeadsChange = [&] { game.StartBeads_Change(); };
     game.Form_Load();
 
     for (int g = 0; g < 300; ++g) {
         const int start = 2 + static_cast<int>(random() % 12);
-        game.StartBeadCount = static_cast<int16_t>(start);
-        game.LayOutBoard(game.StartBeadCount);
-        game.UpdateBoard();
-        game.PauseAtMoves = random() % 2 == 0;
+        screen.moveSlider(static_cast<int16_t>(start));
+        if (random() % 2 == 0)
+            game.Pausex_Click();
         ref::Ring expected{};
-        std::copy(game.Beads.begin(), game.Beads.end(), expected.begin());
+        std::copy(state.Beads.begin(), state.Beads.end(), expected.begin());
         int lowBank = 0, highBank = 0;
 
-        for (int action = 0; !game.GameFinished; ++action) {
+        for (int action = 0; !state.GameFinished; ++action) {
             ASSERT_LT(action, 2000) << "game " << g << " never ended";
             const int kind = static_cast<int>(random() % 20);
             if (kind == 0) {
@@ -32,7 +33,7 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
                 game.GiveHint_MouseUp(1, 0, 0, 0);
             } else if (kind == 1 && screen.undoxEnabled) {
                 game.Undox_Click();
-                std::copy(game.Beads.begin(), game.Beads.end(), expected.begin());
+                std::copy(state.Beads.begin(), state.Beads.end(), expected.begin());
                 lowBank = expected[6];
                 highBank = expected[13];
             } else if (kind == 2) {
@@ -46,17 +47,17 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
                 ref::PlayerMove(expected, pot);
             }
             for (int s = 0; s < SlotCount; ++s)
-                ASSERT_EQ(game.Beads[s], expected[s]) << "game " << g << " slot " << s;
-            ASSERT_EQ(std::accumulate(game.Beads.begin(), game.Beads.end(), 0), 12 * start);
-            for (int16_t count : game.Beads)
+                ASSERT_EQ(state.Beads[s], expected[s]) << "game " << g << " slot " << s;
+            ASSERT_EQ(std::accumulate(state.Beads.begin(), state.Beads.end(), 0), 12 * start);
+            for (int16_t count : state.Beads)
                 ASSERT_GE(count, 0);
-            ASSERT_GE(game.Beads[6], lowBank);
-            ASSERT_GE(game.Beads[13], highBank);
-            lowBank = game.Beads[6];
-            highBank = game.Beads[13];
-            ASSERT_FALSE(game.BoardMirrored);
-            ASSERT_FALSE(game.HintActive);
-            ASSERT_EQ(game.WaitingForClick, 0);
+            ASSERT_GE(state.Beads[6], lowBank);
+            ASSERT_GE(state.Beads[13], highBank);
+            lowBank = state.Beads[6];
+            highBank = state.Beads[13];
+            ASSERT_FALSE(state.BoardMirrored);
+            ASSERT_FALSE(state.HintActive);
+            ASSERT_EQ(state.WaitingForClick, 0);
         }
         ASSERT_EQ(ref::Live(expected), false);
         game.Mess_Click();

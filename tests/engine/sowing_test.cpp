@@ -46,11 +46,11 @@ class OneSowing : public GameTest, public ::testing::WithParamInterface<Sowing> 
 TEST_P(OneSowing, GoesRoundTheWholeRingAndTestsTheLastPot)
 {
     const Sowing& sowing = GetParam();
-    game.Beads = ParseBoard(sowing.board);
+    state.Beads = parseBoard(sowing.board);
     game.SowPot(sowing.pot);
-    EXPECT_EQ(Board(), sowing.sown);
-    EXPECT_EQ(game.CurrentPot, sowing.last);
-    EXPECT_EQ(game.CaptureHolds(), sowing.captures);
+    EXPECT_EQ(board(), sowing.sown);
+    EXPECT_EQ(state.CurrentPot, sowing.last);
+    EXPECT_EQ(game.captureHolds(), sowing.captures);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rules, OneSowing, ::testing::ValuesIn(sowings),
@@ -63,9 +63,9 @@ TEST_F(Rules, LettersRunAToFOnBothRowsAndTurnWithTheBoard)
     std::string plain, turned;
     for (int16_t s : {0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12}) {
         plain += game.PotLetter(s);
-        game.BoardMirrored = true;
+        state.BoardMirrored = true;
         turned += game.PotLetter(s);
-        game.BoardMirrored = false;
+        state.BoardMirrored = false;
     }
     EXPECT_EQ(plain, "ABCDEFFEDCBA");
     EXPECT_EQ(turned, "FEDCBAABCDEF");
@@ -74,12 +74,12 @@ TEST_F(Rules, LettersRunAToFOnBothRowsAndTurnWithTheBoard)
 // No board of real play comes near: counts and totals stop at the 16-bit limit.
 TEST_F(Rules, HugeCountsStopAtTheLimitInsteadOfTurningNegative)
 {
-    game.TotalsAtGameStart[2] = 32000;
-    SetBoard("32767 0 0 0 0 0 |32767| 0 0 0 0 0 0 |0");
+    state.TotalsAtGameStart[2] = 32000;
+    setBoard("32767 0 0 0 0 0 |32767| 0 0 0 0 0 0 |0");
     game.SowPot(0);
-    for (int16_t count : game.Beads)
+    for (int16_t count : state.Beads)
         EXPECT_GE(count, 0);
-    EXPECT_EQ(game.Beads[HumanBank], 32767);
+    EXPECT_EQ(state.Beads[HumanBank], 32767);
     EXPECT_EQ(screen.totalB[2], "32767");
 }
 

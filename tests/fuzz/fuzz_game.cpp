@@ -32,7 +32,7 @@ public:
     void Play()
     {
         for (int n = 0; n < MaxActions && !in.done(); ++n) {
-            const Board before = game.Beads;
+            const Board before = state.Beads;
             Act(in.pick(12));
             Check(before);
         }
@@ -42,28 +42,28 @@ private:
     [[noreturn]] void Fail(const std::string& what) const
     {
         std::fprintf(stderr, "%s after action %d: board %s, start %d\n", what.c_str(), actions,
-                     FormatBoard(game.Beads).c_str(), game.StartBeadCount);
+                     formatBoard(state.Beads).c_str(), state.StartBeadCount);
         std::abort();
     }
 
     // The window lets a pot event through only from an enabled pot; the banks never are.
     bool TakesEvents(int16_t s) const
     {
-        if (IsBank(s))
+        if (isBank(s))
             return false;
-        return IsHumanPot(s) ? screen.potEnabled[s] : !game.GameFinished;
+        return isHumanPot(s) ? screen.potEnabled[s] : !state.GameFinished;
     }
 
     // What the window's Pots_MouseDown does before the release of a right button.
     void RightPress()
     {
-        if (game.Busy() || game.GameFinished)
+        if (game.busy() || state.GameFinished)
             return;
-        game.PreviewActive = true;
-        game.PreviewBeads = game.Beads;
+        state.PreviewActive = true;
+        state.PreviewBeads = state.Beads;
     }
 
-    bool Idle() const { return !game.Busy() && !game.GameFinished && !game.PreviewActive; }
+    bool Idle() const { return !game.busy() && !state.GameFinished && !state.PreviewActive; }
 
     void Act(int kind)
     {
@@ -76,7 +76,7 @@ private:
             const auto s = static_cast<int16_t>(in.pick(SlotCount));
             if (!TakesEvents(s))
                 return;
-            if (Idle() && IsHumanPot(s) && game.Beads[s] > 0)
+            if (Idle() && isHumanPot(s) && state.Beads[s] > 0)
                 expectPlay = s;
             return game.Pots_MouseUp(s, 1, 0, 0, 0);
         }
@@ -95,79 +95,87 @@ private:
         case 3:
             if (!screen.undoxEnabled || !screen.commandFrameEnabled)
                 return;
-            relaid = !game.Busy() && !game.GameFinished;
+            relaid = !game.busy() && !state.GameFinished;
             return game.Undox_Click();
         case 4:
             expectForcedTurn = Idle() && screen.commandFrameEnabled;
             return game.TakeComp_Click();
         case 5:
-            if (!game.HintActive)
-                hintFrom = game.Beads;
+            if (!state.HintActive)
+                hintFrom = state.Beads;
             return game.GiveHint_MouseDown(1, 0, 0, 0);
         case 6:
             return game.GiveHint_MouseUp(1, 0, 0, 0);
         case 7:
             if (screen.commandFrameEnabled)
-                game.PauseAtMoves = !game.PauseAtMoves;
+                state.PauseAtMoves = !state.PauseAtMoves;
             return;
         case 8:
             return game.Form_KeyDown(in.word(), static_cast<int16_t>(in.pick(8)));
         case 9:
-            if (Idle() && IsHumanPot(game.KeyboardPot) && game.Beads[game.KeyboardPot] > 0)
-                expectPlay = game.KeyboardPot;
+            if (Idle() && isHumanPot(state.KeyboardPot) && state.Beads[state.KeyboardPot] > 0)
+                expectPlay = state.KeyboardPot;
             return game.Form_KeyDown(KeyEnter, 0);
         case 10:
             return MoveSlider(static_cast<int16_t>(2 + in.pick(98)));
         default:
             if (!screen.messEnabled)
                 return;
-            relaid = game.GameFinished;
+            relaid = state.GameFinished;
             return game.Mess_Click();
         }
     }
 
-    // The window's StartBeads_Change: the slider holds still under a running move.
+    // The slider holds still under a running move; the game puts it back.
     void MoveSlider(int16_t value)
     {
-        if (!screen.startBeadsEnabled || game.Busy())
+        if (!screen.startBeadsEnabled)
             return;
-        relaid = true;
-        // Nothing but a pot event locks the slider, so a game that forced turns
-        // ended can take a fresh board while it waits for its restart.
-        freshBoardAfterEnd = game.GameFinished;
-        game.StartBeadCount = value;
-        game.LayOutBoard(value);
-        for (int16_t s = 0; s < SlotCount; ++s)
-            screen.RefreshPot(s);
+        if (!game.busy() && value != screen.startBeads) {
+            relaid = true;
+            // Nothing but a pot event locks the slider, so a game that forced turns
+            // ended can take a fresh board while it waits for its restart.
+            freshBoardAfterEnd = state.GameFinished;
+        }
+        screen.moveSlider(value);
     }
 
     // Each turn of the pause's event loop runs one more action; only the click on the
-    // message bar lets the computer go on, and nothing else may touch the board.
-    void WhilePaused()
+    // message bar lets the computer go on. An event queued behind that click runs in
+    // the same turn, still inside the computer's move.
+    void whilePaused()
     {
         if (in.done() || paused || in.pick(4) == 0) {
             game.Mess_Click();
+            if (!in.done() && !paused && in.pick(2) == 0)
+                actInsideTheMove();
             return;
         }
+        actInsideTheMove();
+    }
+
+    // Nothing run inside the computer's move may touch the board.
+    void actInsideTheMove()
+    {
         // The action inside must not disturb what the move around it expects.
         const auto outer = std::tuple(expectPlay, expectForcedTurn, relaid, hintFrom);
         paused = true;
-        const Board before = game.Beads;
+        const Board before = state.Beads;
         Act(in.pick(12));
         paused = false;
         std::tie(expectPlay, expectForcedTurn, relaid, hintFrom) = outer;
-        // No bead check here: a capture is told between crediting the bank and clearing
+        // No bead count here: a capture is told between crediting the bank and clearing
         // the two pots, so a pause can hold a board with the captured beads counted twice.
-        if (game.WaitingForClick != 0 && game.Beads != before)
-            Fail("an event inside the pause changed the board");
+        if (state.Beads != before)
+            Fail("an event inside the computer's move changed the board");
     }
 
     void CheckBeads() const
     {
-        for (const int16_t count : game.Beads)
+        for (const int16_t count : state.Beads)
             if (count < 0)
                 Fail("a negative count");
-        if (std::accumulate(game.Beads.begin(), game.Beads.end(), 0) != 12 * game.StartBeadCount)
+        if (std::accumulate(state.Beads.begin(), state.Beads.end(), 0) != 12 * state.StartBeadCount)
             Fail("beads came or went");
     }
 
@@ -196,53 +204,54 @@ private:
         } else {
             return;
         }
-        if (expected != ToRing(game.Beads))
-            Fail("the move does not follow the rules from " + FormatBoard(before));
+        if (expected != ToRing(state.Beads))
+            Fail("the move does not follow the rules from " + formatBoard(before));
     }
 
     void Check(const Board& before)
     {
         CheckBeads();
-        if (game.WaitingForClick != 0)
+        if (state.WaitingForClick != 0)
             Fail("a pause still waits after its handler returned");
-        if (game.HintActive) {
-            if (!game.BoardMirrored)
+        if (state.HintActive) {
+            if (!state.BoardMirrored)
                 Fail("a held hint without the turned board");
             return;
         }
-        if (game.BoardMirrored)
+        if (state.BoardMirrored)
             Fail("the board stays turned");
-        if (hintFrom && game.Beads != *hintFrom)
+        if (hintFrom && state.Beads != *hintFrom)
             Fail("the hint's release did not put the board back");
         hintFrom.reset();
         CheckAgainstRules(before);
         CheckBanks();
-        const bool over = RowEmpty(game.Beads, 0) || RowEmpty(game.Beads, 7);
-        if (!game.GameFinished)
+        const bool over = RowEmpty(state.Beads, 0) || RowEmpty(state.Beads, 7);
+        if (!state.GameFinished)
             freshBoardAfterEnd = false;
-        if (game.GameFinished != over && !freshBoardAfterEnd)
-            Fail(game.GameFinished ? "a game over with beads on both rows"
-                                   : "a row is empty and the game goes on");
-        if (screen.messEnabled != game.GameFinished)
+        if (state.GameFinished != over && !freshBoardAfterEnd)
+            Fail(state.GameFinished ? "a game over with beads on both rows"
+                                    : "a row is empty and the game goes on");
+        if (screen.messEnabled != state.GameFinished)
             Fail("the message bar takes clicks outside a pause and a game's end");
-        if (game.RunningTotals[1] < 0 || game.RunningTotals[2] < 0)
+        if (state.RunningTotals[1] < 0 || state.RunningTotals[2] < 0)
             Fail("a negative running total");
     }
 
     // Banks only grow; undo, a restart and the slider lay down a board of their own.
     void CheckBanks()
     {
-        if (!relaid && (game.Beads[HumanBank] < banks[0] || game.Beads[ComputerBank] < banks[1]))
+        if (!relaid && (state.Beads[HumanBank] < banks[0] || state.Beads[ComputerBank] < banks[1]))
             Fail("a bank lost beads");
         relaid = false;
-        banks = {game.Beads[HumanBank], game.Beads[ComputerBank]};
+        banks = {state.Beads[HumanBank], state.Beads[ComputerBank]};
     }
 
-    void Settle() { banks = {game.Beads[HumanBank], game.Beads[ComputerBank]}; }
+    void Settle() { banks = {state.Beads[HumanBank], state.Beads[ComputerBank]}; }
 
     FuzzInput& in;
     RecordingScreen screen;
     Game game{screen};
+    GameState& state = game.stateForTests();
     int actions = 0;
     bool paused = false;
     int expectPlay = -1;

@@ -61,11 +61,7 @@ public:
     {
         // Half the runs set the list up as the game's window does.
         if (in.pick(2) == 0) {
-            list.DropDownHeight(3750);
-            list.Mode(0);
-            list.BorderStyle(0);
-            list.GridLines(true);
-            list.ToolTip(true);
+            setUpMovesLog(list);
         }
         list.resize(379, 19);
     }

@@ -48,11 +48,7 @@ std::unique_ptr<UserControl1> LoadedList()
 std::unique_ptr<UserControl1> MovesListAsSetUp()
 {
     std::unique_ptr<UserControl1> list(UserControl1::FromBlock(MovesListBlock()));
-    list->DropDownHeight(3750);
-    list->Mode(0);
-    list->BorderStyle(0);
-    list->GridLines(true);
-    list->ToolTip(true);
+    setUpMovesLog(*list);
     return list;
 }
 

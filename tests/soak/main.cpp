@@ -77,9 +77,9 @@ private:
         slider->setSliderPosition(count_);
         slider->setSliderDown(false);
         turns_ = 0;
-        const Game& game = form_.game();
+        const GameState& game = form_.game().state();
         for (int s = 0; s < SlotCount; ++s)
-            Expect(game.Beads[s] == (IsBank(s) ? 0 : count_), "the board is not laid out anew");
+            Expect(game.Beads[s] == (isBank(s) ? 0 : count_), "the board is not laid out anew");
         CheckBoard();
         CheckHumanToMove(QStringLiteral("YOUR MOVE NOW"));
         Later(&Soak::Turn);
@@ -91,9 +91,9 @@ private:
         ++moves_;
         ++turns_;
         CheckBoard();
-        if (form_.game().GameFinished)
+        if (form_.game().state().GameFinished)
             return EndOfGame();
-        Expect(form_.game().GameLive, "the game goes on with a row spent");
+        Expect(form_.game().state().GameLive, "the game goes on with a row spent");
         CheckHumanToMove(QStringLiteral("AGAIN YOUR MOVE NOW"));
         Expect(turns_ < TurnLimit, "the game does not end");
         Later(&Soak::Turn);
@@ -135,7 +135,7 @@ private:
     // Beads only move from slot to slot, and the faces show what the board holds.
     void CheckBoard()
     {
-        const Game& game = form_.game();
+        const GameState& game = form_.game().state();
         for (int s = 0; s < SlotCount; ++s) {
             Expect(game.Beads[s] >= 0, "a slot went negative");
             Expect(Pot(s)->Tag().toInt() == game.Beads[s], "a pot's face differs from the board");
@@ -154,7 +154,7 @@ private:
     {
         for (int s = 0; s < SlotCount; ++s) {
             const bool open =
-                IsHumanPot(s) ? form_.game().Beads[s] > 0 : IsComputerPot(s) && game_ > 0;
+                isHumanPot(s) ? form_.game().state().Beads[s] > 0 : isComputerPot(s) && game_ > 0;
             Expect(Pot(s)->isEnabled() == open, "pot " + std::to_string(s) + " is wrongly enabled");
         }
         auto* mess = Child<Quillet>("Mess");
@@ -167,7 +167,7 @@ private:
     // A row is spent and the banks decide; what is left on the other row stays there.
     void CheckGameOver()
     {
-        const Board& beads = form_.game().Beads;
+        const Board& beads = form_.game().state().Beads;
         auto spent = [&](int first) {
             return std::all_of(&beads[first], &beads[first + 6], [](int16_t n) { return n == 0; });
         };
@@ -197,7 +197,7 @@ private:
     {
         std::string board; // as the tests write it: 0 4 4 4 3 3 |0| 3 3 3 3 3 3 |0
         for (int s = 0; s < SlotCount; ++s) {
-            const std::string n = std::to_string(form_.game().Beads[s]);
+            const std::string n = std::to_string(form_.game().state().Beads[s]);
             board += s == HumanBank ? " |" + n + "|" : s == ComputerBank ? " |" + n : " " + n;
         }
         std::printf("soak: game %d, move %d of it (%lld in all): %s\nboard%s\n", game_ + 1, turns_,

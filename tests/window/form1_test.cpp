@@ -85,16 +85,7 @@ TEST_F(MainWindow, HoverLookStaysOverALetterAndEndsOverTheSurface)
     EXPECT_EQ(PictureOf(3), SunkenGreen());
     MoveOnto(&form);
     EXPECT_EQ(PictureOf(3), RaisedGreen());
-    EXPECT_EQ(form.game().HoverPot, -1);
-}
-
-TEST_F(MainWindow, ComputerPotsHaveNoHoverLook)
-{
-    MoveOnto(Pot(1));
-    form.game().GameFinished = true;
-    form.Pots_MouseMove(9, 0, 0, 0, 0);
-    EXPECT_EQ(form.game().HoverPot, 1);
-    EXPECT_EQ(PictureOf(1), SunkenGreen());
+    EXPECT_EQ(form.game().state().HoverPot, -1);
 }
 
 TEST_F(MainWindow, TheScoreBoardOpensOnAnyButtonsRelease)
@@ -159,26 +150,126 @@ TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
         QString line = QStringLiteral("#000>Move   3 from A");
         log->Additem(line);
     }
-    const Board start = form.game().Beads;
+    const Board start = form.game().state().Beads;
     for (int round = 0; round < 20; ++round) {
         const int pot = round % 2 == 0 ? 0 : 5;
         QTest::mouseClick(Pot(pot), Qt::LeftButton);
-        ASSERT_NE(form.game().Beads, start) << "round " << round << ": the move was played";
-        ASSERT_EQ(form.game().WaitingForClick, 0);
+        ASSERT_NE(form.game().state().Beads, start) << "round " << round << ": the move was played";
+        ASSERT_EQ(form.game().state().WaitingForClick, 0);
         QTest::mouseClick(Child<Quillet>(QStringLiteral("Undox")), Qt::LeftButton);
-        ASSERT_EQ(form.game().Beads, start) << "round " << round << ": the undo was made";
+        ASSERT_EQ(form.game().state().Beads, start) << "round " << round << ": the undo was made";
     }
     EXPECT_GE(log->state().ItemCount, 32768);
     QTest::mouseClick(Pot(2), Qt::LeftButton);
-    EXPECT_NE(form.game().Beads, start);
+    EXPECT_NE(form.game().state().Beads, start);
 }
 
 TEST_F(MainWindow, ALongTotalStaysWholeInItsBox)
 {
     auto* total = Child<QLabel>(QStringLiteral("TotalB2"));
-    form.SetTotalBCaption(2, "32767");
+    form.setTotalBCaption(2, "32767");
     EXPECT_LE(QFontMetrics(total->font()).horizontalAdvance(total->text()),
               total->contentsRect().width());
-    form.SetTotalBCaption(2, "7");
+    form.setTotalBCaption(2, "7");
     EXPECT_GT(total->font().pointSizeF(), 14.0) << "a short total keeps the full size";
 }
+
+#include <QSlider>
+
+#include <numeric>
+
+namespace {
+
+// What one opening leaves behind: the board and the log, oldest line first.
+struct Outcome {
+    Board beads;
+    int sliderValue;
+    QStringList log;
+    bool operator==(const Outcome&) const = default;
+};
+
+void PrintTo(const Outcome& o, std::ostream* out)
+{
+    *out << o.log.join(QLatin1String(" / ")).toStdString();
+}
+
+void PostClick(QWidget* widget)
+{
+    const QPoint at = widget->rect().center();
+    const QPoint global = widget->mapToGlobal(at);
+    QCoreApplication::postEvent(widget,
+                                new QMouseEvent(QEvent::MouseButtonPress, at, global,
+                                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+    QCoreApplication::postEvent(widget,
+                                new QMouseEvent(QEvent::MouseButtonRelease, at, global,
+                                                Qt::LeftButton, Qt::NoButton, Qt::NoModifier));
+}
+
+// An opening played with "Pause at moves" on. At the first pause the user clicks the
+// bar and, at once, does something else: both land in the queue and the same pass of
+// the event loop delivers them, the second while the computer's move still runs.
+enum class Behind { Nothing, PotClick, Enter, SliderDrag };
+
+Outcome PlayPausedOpening(Behind behind, bool forcedTurn)
+{
+    Form1 form;
+    form.show();
+    QApplication::setActiveWindow(&form);
+    auto child = [&](const char* name) { return form.findChild<QWidget*>(QLatin1String(name)); };
+    QTest::mouseClick(child("Pausex"), Qt::LeftButton);
+    bool first = true;
+    form.setPauseHook([&] {
+        if (!first) {
+            QTest::mouseClick(child("Mess"), Qt::LeftButton);
+            return;
+        }
+        first = false;
+        PostClick(child("Mess"));
+        if (behind == Behind::PotClick)
+            PostClick(child("Pots2"));
+        if (behind == Behind::Enter) {
+            QWidget* focused = QApplication::focusWidget();
+            QCoreApplication::postEvent(
+                focused ? focused : &form,
+                new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
+        }
+        if (behind == Behind::SliderDrag) {
+            auto* slider = form.findChild<QSlider*>(QStringLiteral("StartBeads"));
+            QMetaObject::invokeMethod(
+                slider, [slider] { slider->setValue(50); }, Qt::QueuedConnection);
+        }
+        QCoreApplication::processEvents();
+    });
+    // The first key selects pot A, which keeps its beads for Enter to play. A forced
+    // turn leaves the slider free.
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(focus ? focus : &form, Qt::Key_A);
+    if (forcedTurn)
+        QTest::mouseClick(child("TakeComp"), Qt::LeftButton);
+    else
+        QTest::mouseClick(child("Pots1"), Qt::LeftButton);
+
+    Outcome outcome{form.game().state().Beads,
+                    form.findChild<QSlider*>(QStringLiteral("StartBeads"))->value(),
+                    {}};
+    auto* list = form.findChild<UserControl1*>(QStringLiteral("MovesList"));
+    for (int it = list->state().ItemCount - 1; it >= 0; --it)
+        outcome.log << list->List(it).toText();
+    return outcome;
+}
+
+class EventsBehindTheRelease : public ::testing::TestWithParam<Behind> {};
+
+} // namespace
+
+TEST_P(EventsBehindTheRelease, StartNoMoveInsideTheComputers)
+{
+    const bool forcedTurn = GetParam() == Behind::SliderDrag;
+    const Outcome undisturbed = PlayPausedOpening(Behind::Nothing, forcedTurn);
+    const Outcome outcome = PlayPausedOpening(GetParam(), forcedTurn);
+    EXPECT_EQ(std::accumulate(outcome.beads.begin(), outcome.beads.end(), 0), 12 * 3);
+    EXPECT_EQ(outcome, undisturbed);
+}
+
+INSTANTIATE_TEST_SUITE_P(OnePass, EventsBehindTheRelease,
+                         ::testing::Values(Behind::PotClick, Behind::Enter, Behind::SliderDrag));

@@ -58,11 +58,11 @@ protected:
 TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
 {
     ExpectEveryCaptionFits(form);
-    for (int turn = 0; turn < 300 && !form.game().GameFinished; ++turn) {
+    for (int turn = 0; turn < 300 && !form.game().state().GameFinished; ++turn) {
         Click(form, "TakeComp");
         ExpectEveryCaptionFits(form);
     }
-    ASSERT_TRUE(form.game().GameFinished);
+    ASSERT_TRUE(form.game().state().GameFinished);
 }
 
 TEST_F(Look, TheLogSaysWhoseEachRowIs)

@@ -17,9 +17,9 @@ int main(int argc, char* argv[])
     const bool byButton = argc > 1 && std::strcmp(argv[1], "quit") == 0;
     Form1 form;
     form.show();
-    form.Pausex_Click();
+    QTest::mouseClick(form.findChild<Quillet*>(QStringLiteral("Pausex")), Qt::LeftButton);
     QTimer::singleShot(50, &form, [&] {
-        if (form.game().WaitingForClick == 0) {
+        if (form.game().state().WaitingForClick == 0) {
             std::puts("no pause");
             std::exit(4);
         }

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "engine/game.h"
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+// Stands in for the window: keeps what the window would show, and writes every
+// operation that changes the screen into one ordered record ("name:arguments"), so
+// that tests can check the order of things. Reads (a Tag, the slider's value, the
+// hand, the letters' places) change nothing and are not recorded.
+class RecordingScreen : public GameScreen {
+public:
+    struct LogLine {
+        std::string text;
+        int32_t color = -1; // -1: no colour given, the list picks one
+    };
+
+    std::array<std::string, SlotCount> tags{};
+    std::array<bool, SlotCount> potEnabled{};
+    std::array<bool, SlotCount> hot{}; // the hover look
+    std::string messCaption;
+    bool messEnabled = false;
+    bool messVisible = true;
+    bool undoxEnabled = true;
+    bool commandFrameEnabled = true;
+    std::string pausexCaption = "Do not pause";
+    bool startBeadsEnabled = true;
+    int16_t startBeads = 99; // the slider's stored value
+    std::string label2;
+    float handLeft = 0;
+    float handTop = 0;
+    bool handShown = false;
+    std::array<std::string, 3> totalB{};
+    std::vector<LogLine> log; // newest first, as MovesList shows it
+    int scoreWins = 0;
+    int scoreLosses = 0;
+    int scoreDraws = 0;
+    std::vector<std::string> calls;
+
+    // What the platform raises: the pause's run of pending events (a test clicks Mess
+    // from here), and the slider's change when its value is written.
+    std::function<void()> onPendingEvents;
+    std::function<void()> onStartBeadsChange;
+    int pendingEventRuns = 0;
+
+    static constexpr std::array<float, 6> letterLeft{1635, 2475, 3360, 4245, 5130, 6000};
+    static constexpr float letterTop = 1075;
+
+    void DrawPot(int16_t Pot, const std::string& Text) override;
+    void DrawPotHot(int16_t Pot, const std::string& Text) override;
+    std::string potTag(int16_t Index) const override { return tags.at(Index); }
+    void setPotEnabled(int16_t Slot, bool Enabled) override;
+    void setMessCaption(const std::string& Caption) override;
+    void setMessEnabled(bool Enabled) override;
+    void showMess() override;
+    void setUndoxEnabled(bool Enabled) override;
+    void setCommandFrameEnabled(bool Enabled) override;
+    void setPausexCaption(const std::string& Caption) override;
+    void setStartBeadsEnabled(bool Enabled) override;
+    int16_t startBeadsValue() const override { return startBeads; }
+    void setStartBeadsValue(int16_t Value) override;
+    void setLabel2Caption(const std::string& Caption) override;
+    void setHandLeft(float Left) override;
+    void setHandTop(float Top) override;
+    void setHandVisible(bool Visible) override;
+    bool handVisible() const override { return handShown; }
+    float potNameLeft(int16_t Index) const override { return letterLeft.at(Index); }
+    float potNameTop(int16_t) const override { return letterTop; }
+    void setTotalBCaption(int16_t Index, const std::string& Caption) override;
+    void setUpMovesList() override;
+    void movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
+                          int32_t& ItemColor) override;
+    void movesListAdditem(std::string& s, int16_t itemx) override;
+    void movesListClear() override;
+    void scoreWin(bool Value) override;
+    void scoreDraw(bool Value) override;
+    void runPendingEvents() override;
+
+    // The user moves the slider: the value changes and the change is raised.
+    void moveSlider(int16_t value);
+    // Log texts, oldest first: the order in which they were written.
+    std::vector<std::string> logTexts() const;
+    // Only the calls that begin with prefix, in order.
+    std::vector<std::string> callsStartingWith(const std::string& prefix) const;
+
+private:
+    void record(const std::string& call) { calls.push_back(call); }
+};
+
+// Compact board notation in slot order: "0 4 4 4 3 3 |0| 3 3 3 3 3 3 |0".
+Board parseBoard(const std::string& text);
+std::string formatBoard(const Board& board);
