@@ -1,7 +1,7 @@
 #include "controls/quillet.h"
 
-#include "controls/mouse_numbers.h"
-#include "controls/twips.h"
+#include "common/mouse_numbers.h"
+#include "common/twips.h"
 
 #include <QImage>
 #include <QMouseEvent>

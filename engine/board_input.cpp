@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 // A human pot with beads under the mouse looks hollow; only one pot at a time.
 void Game::Pots_MouseMove(int16_t Index, int16_t Button, int16_t Shift, float X, float Y)
@@ -47,8 +47,8 @@ void Game::Pots_MouseDown(int16_t Index, int16_t Button, int16_t Shift, float X,
     // The sowing done on the Tags: each step reads what the last one wrote.
     for (int k = 1; k <= n; ++k) {
         const auto j = static_cast<int16_t>((Index + k) % SlotCount);
-        const auto shown = static_cast<long long>(NumericRead(m_screen.potTag(j)));
-        m_screen.DrawPot(j, Digits(shown + 1));
+        const auto shown = static_cast<long long>(numericRead(m_screen.potTag(j)));
+        m_screen.DrawPot(j, digits(shown + 1));
     }
 }
 
@@ -90,7 +90,7 @@ void Game::StartBeads_Change()
         m_screen.setStartBeadsValue(StartBeadCount);
         return;
     }
-    m_screen.setLabel2Caption("Start with " + Digits(value) + " beads");
+    m_screen.setLabel2Caption("Start with " + digits(value) + " beads");
     StartBeadCount = value;
     layOutBoard(StartBeadCount);
     for (int16_t s = 0; s < SlotCount; ++s)

@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 #include <algorithm>
 
@@ -107,7 +107,7 @@ void Game::playChosenPot()
     if (captureHolds()) {
         const int16_t taken = creditCapture();
         ListMove(side, prefix + "Last pot " + PotLetter(CurrentPot) +
-                           " is empty:" + NumberText(taken) + " taken");
+                           " is empty:" + numberText(taken) + " taken");
         clearCapturedPots();
     }
     CheckRows();

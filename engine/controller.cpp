@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 // The start of the program: the window has set up its score board; the rest is ours,
 // with the slider, its label and the log's look told to the screen in their turn.
@@ -11,7 +11,7 @@ void Game::Form_Load()
     // The slider stood at its stored 99, so this lays out the board through
     // StartBeads_Change.
     m_screen.setStartBeadsValue(StartBeadCount);
-    m_screen.setLabel2Caption("Start with " + Digits(StartBeadCount) + " beads");
+    m_screen.setLabel2Caption("Start with " + digits(StartBeadCount) + " beads");
     HintPotShown = NoSlot;
     HoverPot = NoSlot;
     KeyboardPot = NoSlot;
@@ -54,9 +54,9 @@ void Game::Pots_MouseUp(int16_t Index, int16_t Button, int16_t Shift, float X, f
         PreviewActive = false;
         return;
     }
-    if (NumericRead(m_screen.potTag(Index)) == 0)
+    if (numericRead(m_screen.potTag(Index)) == 0)
         return;
-    Text1 = Digits(Index + 1);
+    Text1 = digits(Index + 1);
     int16_t Result = 0;
     HumanMove(Result);
     UpdateBoard();
@@ -93,7 +93,7 @@ void Game::HumanMove(int16_t& Result)
 {
     Result = 0;
     int16_t pick = 0;
-    if (!NumericRead16(Text1, pick) || pick < 1 || pick > 6) {
+    if (!numericRead16(Text1, pick) || pick < 1 || pick > 6) {
         Result = -1;
         return;
     }
@@ -113,7 +113,7 @@ void Game::HumanMove(int16_t& Result)
     if (captureHolds()) {
         const int16_t taken = creditCapture();
         ListMove(SideHuman,
-                 "Last pot " + PotLetter(CurrentPot) + " is empty:" + NumberText(taken) + " taken");
+                 "Last pot " + PotLetter(CurrentPot) + " is empty:" + numberText(taken) + " taken");
         clearCapturedPots();
     }
     CheckRows();

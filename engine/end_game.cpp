@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 #include <cstdlib>
 
@@ -10,7 +10,7 @@ void Game::RefreshPot(int16_t Slot)
 {
     if (!isSlot(Slot))
         return;
-    m_screen.DrawPot(Slot, Digits(Beads[Slot]));
+    m_screen.DrawPot(Slot, digits(Beads[Slot]));
     // The computer's pots and the banks keep their enabled state.
     if (!isHumanPot(Slot))
         return;
@@ -37,8 +37,8 @@ void Game::UpdateBoard()
 
 void Game::writeTotals()
 {
-    m_screen.setTotalBCaption(1, Digits(RunningTotals[1]));
-    m_screen.setTotalBCaption(2, Digits(RunningTotals[2]));
+    m_screen.setTotalBCaption(1, digits(RunningTotals[1]));
+    m_screen.setTotalBCaption(2, digits(RunningTotals[2]));
 }
 
 void Game::EndGame()
@@ -48,10 +48,10 @@ void Game::EndGame()
     const int margin = Beads[HumanBank] - Beads[ComputerBank];
     std::string result;
     if (margin > 0) {
-        result = "YOU WIN BY " + NumberText(margin) + " POINTS";
+        result = "YOU WIN BY " + numberText(margin) + " POINTS";
         m_screen.scoreWin(true);
     } else if (margin < 0) {
-        result = "COMPUTER WINS BY " + NumberText(std::abs(margin)) + " POINTS";
+        result = "COMPUTER WINS BY " + numberText(std::abs(margin)) + " POINTS";
         m_screen.scoreWin(false);
     } else {
         result = "GAME DRAWN";

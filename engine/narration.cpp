@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 #include <cstdio>
 
@@ -8,7 +8,7 @@ void Game::ListMove(int16_t Side, const std::string& Text)
 {
     if (Text.empty())
         return;
-    const std::string key = NumberText(Side) + Text;
+    const std::string key = numberText(Side) + Text;
     if (key == LastEntryKey)
         return;
     // Of a run of hint lines only the first is listed: the further passes of a hint,

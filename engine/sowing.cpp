@@ -1,6 +1,6 @@
 #include "engine/game.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 #include <utility>
 
@@ -11,10 +11,10 @@ std::string Game::PotLetter(int16_t Pot) const
 
 std::string Game::StrCount(int16_t N)
 {
-    std::string digits = Digits(N);
-    if (digits.size() < 3)
-        digits.insert(0, 3 - digits.size(), ' ');
-    return digits;
+    std::string text = digits(N);
+    if (text.size() < 3)
+        text.insert(0, 3 - text.size(), ' ');
+    return text;
 }
 
 void Game::SowPot(int16_t Pot)

@@ -1,6 +1,6 @@
 #include "helpabout/aboutform.h"
 
-#include "controls/twips.h"
+#include "common/twips.h"
 #include "helpabout/boardpicture.h"
 
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "helpabout/helpform.h"
 
-#include "controls/twips.h"
+#include "common/twips.h"
 #include "helpabout/boardpicture.h"
 #include "helpabout/webbrowser.h"
 

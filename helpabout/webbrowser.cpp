@@ -1,6 +1,6 @@
 #include "helpabout/webbrowser.h"
 
-#include "controls/twips.h"
+#include "common/twips.h"
 
 #include <QDebug>
 #include <QFile>

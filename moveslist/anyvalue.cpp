@@ -8,7 +8,7 @@ double AnyValue::toNumber() const
     if (const double* number = std::get_if<double>(&value))
         return *number;
     if (const QString* text = std::get_if<QString>(&value))
-        return moveslist::NumericRead(*text);
+        return moveslist::numericRead(*text);
     return 0;
 }
 
@@ -30,6 +30,6 @@ QString AnyValue::toText() const
     if (const QString* text = std::get_if<QString>(&value))
         return *text;
     if (const double* number = std::get_if<double>(&value))
-        return moveslist::NumberText(*number).trimmed();
+        return moveslist::numberText(*number).trimmed();
     return {};
 }

@@ -1,5 +1,6 @@
 #include "moveslist/picturebox.h"
 
+#include "common/numbers.h"
 #include "moveslist/listerror.h"
 #include "moveslist/listnumbers.h"
 #include "moveslist/olecolor.h"
@@ -11,11 +12,7 @@
 
 #include <cmath>
 
-using moveslist::R;
-
 namespace {
-
-constexpr double TwipsPerInch = 1440.0;
 
 // A rectangle of widget pixels as the pixels of an image at the given ratio.
 QRectF DeviceRect(const QRect& logical, qreal ratio)
@@ -320,12 +317,12 @@ void PictureBox::syncImage() const
 
 int PictureBox::PixelX(double twips) const
 {
-    return static_cast<int>(R(twips / TwipsPerPixelX()));
+    return twipsToPixels(twips, TwipsPerPixelX());
 }
 
 int PictureBox::PixelY(double twips) const
 {
-    return static_cast<int>(R(twips / TwipsPerPixelY()));
+    return twipsToPixels(twips, TwipsPerPixelY());
 }
 
 // The box from one corner up to, not including, the other.

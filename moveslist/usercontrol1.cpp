@@ -13,8 +13,6 @@
 #include <QScrollBar>
 #include <qdrawutil.h>
 
-using moveslist::R;
-
 namespace {
 
 // The platform's default font, which nothing in the control changes; the desktop

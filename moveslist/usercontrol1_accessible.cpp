@@ -8,8 +8,6 @@
 #include <cmath>
 
 namespace col = itemrecord;
-using moveslist::NumericRead;
-using moveslist::R;
 
 QString UserControl1::rowAccessibleName(int32_t item) const
 {
@@ -19,7 +17,7 @@ QString UserControl1::rowAccessibleName(int32_t item) const
     const QString text = columns.value(col::Text);
     if (!rowVoice)
         return text;
-    const auto colour = static_cast<int32_t>(NumericRead(columns.value(col::Colour)));
+    const auto colour = static_cast<int32_t>(moveslist::numericRead(columns.value(col::Colour)));
     return rowVoice(text, colour);
 }
 

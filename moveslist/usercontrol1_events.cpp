@@ -1,7 +1,7 @@
 #include "moveslist/usercontrol1.h"
 
-#include "controls/key_numbers.h"
-#include "controls/mouse_numbers.h"
+#include "common/key_numbers.h"
+#include "common/mouse_numbers.h"
 #include "moveslist/picturebox.h"
 
 #include <QLabel>

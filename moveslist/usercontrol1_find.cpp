@@ -7,8 +7,6 @@
 
 #include <QLineEdit>
 
-using moveslist::NumberText;
-using moveslist::R;
 using moveslist::To16;
 
 namespace col = itemrecord;
@@ -60,7 +58,7 @@ void UserControl1::ShowItem(const AnyValue& i)
     const auto item = static_cast<int32_t>(R(n));
     st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
     Text1->setText(col::Column(st.ItemColumns, col::Text));
-    ChosenIndex(NumberText(item - 1));
+    ChosenIndex(moveslist::numberText(item - 1));
     if (st.SelectedRow != -1)
         InvertRowStrip(To16(st.SelectedRow));
     if (st.ComboMode == 1 && Picture1->isHidden()) {

@@ -1,6 +1,6 @@
 #include "moveslist/usercontrol1.h"
 
-#include "controls/key_numbers.h"
+#include "common/key_numbers.h"
 #include "moveslist/itemrecord.h"
 #include "moveslist/listnumbers.h"
 #include "moveslist/picturebox.h"
@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
-using moveslist::NumberText;
 using moveslist::To16;
 
 namespace col = itemrecord;
@@ -73,7 +72,7 @@ void UserControl1::CommitTopItem(int16_t KeyCode, int16_t Shift)
         return;
     st.ItemColumns = col::Split(st.Items[static_cast<size_t>(st.TopRow)]);
     Text1->setText(col::Column(st.ItemColumns, col::Text));
-    ChosenIndex(NumberText(st.TopRow - 1));
+    ChosenIndex(moveslist::numberText(st.TopRow - 1));
     if (st.ComboMode == 1)
         CloseDropDown();
     raiseKeyDown(KeyCode, Shift);

@@ -11,13 +11,11 @@
 
 #include <algorithm>
 
-using moveslist::R;
 using moveslist::To16;
 using moveslist::To32;
 
 namespace {
 
-constexpr double TwipsPerInch = 1440.0;
 // Height allowance of a bordered control, in twips.
 constexpr int BorderAllowance = 48;
 // The drop button covers the last 20 twips of Text1.

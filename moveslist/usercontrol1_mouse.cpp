@@ -8,8 +8,6 @@
 
 #include <cmath>
 
-using moveslist::NumberText;
-using moveslist::NumericRead;
 using moveslist::To16;
 
 namespace col = itemrecord;
@@ -33,7 +31,7 @@ void UserControl1::Picture1_MouseUp(int16_t& Button, int16_t& Shift, float& X, f
         return;
     st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
     Text1->setText(col::Column(st.ItemColumns, col::Text));
-    ChosenIndex(NumberText(item - 1));
+    ChosenIndex(moveslist::numberText(item - 1));
     // Off and on again: a click on the marked row leaves it marked.
     if (st.ComboMode == 0) {
         if (st.SelectedRow != -1)
@@ -81,7 +79,8 @@ void UserControl1::HoverTip(float Y)
         st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
     if (st.ItemColumns.size() <= col::DrawnWidth)
         return;
-    const bool tooWide = NumericRead(st.ItemColumns[col::DrawnWidth]) > childWidth(Picture1);
+    const bool tooWide =
+        moveslist::numericRead(st.ItemColumns[col::DrawnWidth]) > childWidth(Picture1);
     Picture1->setToolTip(tooWide ? st.ItemColumns[col::Text] : QString());
 }
 

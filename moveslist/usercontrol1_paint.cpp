@@ -5,9 +5,6 @@
 #include "moveslist/listnumbers.h"
 #include "moveslist/picturebox.h"
 
-using moveslist::NumberText;
-using moveslist::NumericRead;
-using moveslist::R;
 using moveslist::To16;
 using moveslist::To32;
 
@@ -60,13 +57,13 @@ void UserControl1::DrawItem(int32_t item, int32_t counter)
     const auto entry = static_cast<size_t>(item);
     st.ItemColumns = col::Split(entry < st.Items.size() ? st.Items[entry] : QString());
     if (st.DrawStyleValue == 1)
-        LoadRowPicture(NumericRead(col::Column(st.ItemColumns, col::PictureIndex)));
+        LoadRowPicture(moveslist::numericRead(col::Column(st.ItemColumns, col::PictureIndex)));
     int32_t width = 0;
     DrawRow(counter, col::Column(st.ItemColumns, col::Text),
             col::Column(st.ItemColumns, col::FontName), col::Column(st.ItemColumns, col::Colour),
             st.NextRowTop, width);
     QStringList columns = st.ItemColumns.mid(0, col::DrawnWidth);
-    columns.append(NumberText(width));
+    columns.append(moveslist::numberText(width));
     st.Items[entry] = col::Join(columns);
 }
 
@@ -93,7 +90,7 @@ void UserControl1::DrawRowText(int x, int y, const QString& text, const QString&
                                const QString& font, int32_t& width)
 {
     Picture3->Cls();
-    Picture3->ForeColor(To32(NumericRead(colour)));
+    Picture3->ForeColor(To32(moveslist::numericRead(colour)));
     Picture3->FontName(font);
     Picture3->Print(text);
     width = To32(R(Picture3->TextWidth(text)));

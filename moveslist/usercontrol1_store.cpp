@@ -11,8 +11,6 @@
 
 #include <algorithm>
 
-using moveslist::NumberText;
-using moveslist::NumericRead;
 using moveslist::To16;
 using moveslist::To32;
 
@@ -41,10 +39,10 @@ void UserControl1::Additem(QString& s, int16_t itemx, int16_t& ipic, QString& It
     // neighbour: on a log written top down that is the oldest line.
     st.ItemColumns = col::Split(st.Items[static_cast<size_t>(st.ItemCount)]);
     if (ipic <= 0 && st.ItemCount > 0)
-        ipic = To16(NumericRead(col::Column(st.ItemColumns, col::PictureIndex)));
+        ipic = To16(moveslist::numericRead(col::Column(st.ItemColumns, col::PictureIndex)));
     // Only -1 means no colour; 0 is an explicit black.
     if (ItemColor == -1 && st.ItemCount > 0)
-        ItemColor = To32(NumericRead(col::Column(st.ItemColumns, col::Colour)));
+        ItemColor = To32(moveslist::numericRead(col::Column(st.ItemColumns, col::Colour)));
 
     if (itemx > 0)
         itemx = To16(itemx + 1.0);
@@ -77,7 +75,7 @@ void UserControl1::AdditemInsert(QString& s, int16_t itemx, int16_t ipic, int32_
         DrawRows(st.TopRow, To16(st.TopRow + st.RowsInView - 1.0));
     if (st.ComboMode == 1)
         st.TopRow = -1;
-    LastAddedIndex(NumberText(itemx - 1));
+    LastAddedIndex(moveslist::numberText(itemx - 1));
     // A new top line repaints from item 1 whatever the scroll bar shows.
     if (topInsert && st.ComboMode == 0)
         DrawRows(1, st.RowsInView);
@@ -91,7 +89,7 @@ void UserControl1::AdditemAppend(QString& s, int16_t ipic, int32_t ItemColor)
     ++st.ItemCount;
     st.Items[static_cast<size_t>(st.ItemCount)] = NewRecord(s, ipic, ItemColor, QString());
     setScrollMaximum(st.ItemCount - 1);
-    LastAddedIndex(NumberText(st.ItemCount - 1));
+    LastAddedIndex(moveslist::numberText(st.ItemCount - 1));
     if (st.ComboMode == 1)
         st.TopRow = -1;
     if (st.ItemCount == 1)
@@ -108,8 +106,8 @@ void UserControl1::AdditemAppend(QString& s, int16_t ipic, int32_t ItemColor)
 QString UserControl1::NewRecord(const QString& s, int16_t ipic, int32_t ItemColor,
                                 const QString& width) const
 {
-    return col::Join(
-        {s, QStringLiteral("0"), NumberText(ipic), st.ItemFontName, NumberText(ItemColor), width});
+    return col::Join({s, QStringLiteral("0"), moveslist::numberText(ipic), st.ItemFontName,
+                      moveslist::numberText(ItemColor), width});
 }
 
 // The maximum is 16 bits: past 32,768 items this is the overflow the caller gets.
@@ -153,7 +151,7 @@ void UserControl1::RemoveItem(const AnyValue& it)
 // range is ignored by every member that takes one.
 int32_t UserControl1::EntryOf(const AnyValue& it) const
 {
-    const double n = moveslist::R(it.toNumberStrict()) + 1;
+    const double n = R(it.toNumberStrict()) + 1;
     return n >= 1 && n <= st.ItemCount ? static_cast<int32_t>(n) : 0;
 }
 
@@ -173,17 +171,17 @@ AnyValue UserControl1::GetItemData(const AnyValue& i) const
     if (n == 0)
         return {};
     st.ItemColumns = col::Split(st.Items[static_cast<size_t>(n)]);
-    return NumericRead(col::Column(st.ItemColumns, col::ItemData));
+    return moveslist::numericRead(col::Column(st.ItemColumns, col::ItemData));
 }
 
 void UserControl1::SetItemData(AnyValue it, const AnyValue& valuex)
 {
     if (it.toNumberStrict() == -1)
-        it = NumericRead(LastAddedIndex());
+        it = moveslist::numericRead(LastAddedIndex());
     const int32_t n = EntryOf(it);
     if (n == 0)
         return;
-    const QString data = NumberText(valuex.toNumberStrict());
+    const QString data = moveslist::numberText(valuex.toNumberStrict());
     QString& record = st.Items[static_cast<size_t>(n)];
     st.ItemColumns = col::Split(record);
     QStringList columns = st.ItemColumns;
@@ -235,7 +233,7 @@ void UserControl1::text(const AnyValue& New_text)
 // 0 both when nothing is chosen and when the first item is.
 AnyValue UserControl1::ListIndex() const
 {
-    return NumericRead(ChosenIndex());
+    return moveslist::numericRead(ChosenIndex());
 }
 
 void UserControl1::ListIndex(const AnyValue& New_ListIndex)

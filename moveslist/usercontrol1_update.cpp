@@ -3,7 +3,6 @@
 #include "moveslist/itemrecord.h"
 #include "moveslist/listnumbers.h"
 
-using moveslist::NumberText;
 using moveslist::To16;
 
 namespace col = itemrecord;
@@ -16,13 +15,14 @@ void UserControl1::UpdateText(const AnyValue& it, const QString& s)
 // A value with no numeric reading is a type mismatch, and the record stays as it was.
 void UserControl1::UpdateItemData(const AnyValue& it, const AnyValue& itd)
 {
-    UpdateColumn(it, col::ItemData, [&] { return NumberText(itd.toNumberStrict()); });
+    UpdateColumn(it, col::ItemData, [&] { return moveslist::numberText(itd.toNumberStrict()); });
 }
 
 // Any number is stored: the image list is only asked when the row is drawn.
 void UserControl1::UpdateIcon(const AnyValue& it, const AnyValue& ipic)
 {
-    UpdateColumn(it, col::PictureIndex, [&] { return NumberText(ipic.toNumberStrict()); });
+    UpdateColumn(it, col::PictureIndex,
+                 [&] { return moveslist::numberText(ipic.toNumberStrict()); });
 }
 
 void UserControl1::UpdateFont(const AnyValue& it, const QString& font)
@@ -32,7 +32,7 @@ void UserControl1::UpdateFont(const AnyValue& it, const QString& font)
 
 void UserControl1::UpdateForeColor(const AnyValue& it, int32_t fc)
 {
-    UpdateColumn(it, col::Colour, [&] { return NumberText(fc); });
+    UpdateColumn(it, col::Colour, [&] { return moveslist::numberText(fc); });
 }
 
 // One column replaced, the others passed on as they were; the drawn width keeps its

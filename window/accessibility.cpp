@@ -1,7 +1,7 @@
 #include "window/form1.h"
 
+#include "common/numbers.h"
 #include "controls/quillet.h"
-#include "engine/number_text.h"
 #include "moveslist/usercontrol1.h"
 
 #include <QAccessible>
@@ -14,7 +14,7 @@ void Form1::describePot(int16_t Slot)
     if (!isSlot(Slot))
         return;
     Quillet* pot = Pots[Slot];
-    const int count = static_cast<int>(NumericRead(pot->Tag().toStdString()));
+    const int count = static_cast<int>(numericRead(pot->Tag().toStdString()));
     const QString beads =
         count == 1 ? QStringLiteral("1 bead") : QStringLiteral("%1 beads").arg(count);
     QString name;

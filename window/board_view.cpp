@@ -1,9 +1,9 @@
 #include "window/form1.h"
 
-#include "controls/mouse_numbers.h"
+#include "common/mouse_numbers.h"
+#include "common/numbers.h"
+#include "common/twips.h"
 #include "controls/quillet.h"
-#include "controls/twips.h"
-#include "engine/number_text.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -15,7 +15,7 @@ void Form1::DrawPot(int16_t Pot, const std::string& Text)
     if (!isSlot(Pot))
         return;
     // A text that does not begin with a number reads as 0, like every Tag.
-    const double n = NumericRead(Text);
+    const double n = numericRead(Text);
     QString face = QString::fromStdString(Text);
     Quillet* pot = Pots[Pot];
     if (!isBank(Pot)) {
@@ -35,7 +35,7 @@ void Form1::DrawPot(int16_t Pot, const std::string& Text)
 // The hover look: a human pot with beads shows its count in the hollow of the bank.
 void Form1::DrawPotHot(int16_t Pot, const std::string& Text)
 {
-    if (!isHumanPot(Pot) || NumericRead(Text) == 0)
+    if (!isHumanPot(Pot) || numericRead(Text) == 0)
         return;
     const QString face = QString::fromStdString(Text);
     Pots[Pot]->picture(Pots[HumanBank]->picture());

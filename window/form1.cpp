@@ -1,9 +1,9 @@
 #include "window/form1.h"
 
 #include "assets/pictures.h"
+#include "common/twips.h"
 #include "controls/marlet.h"
 #include "controls/quillet.h"
-#include "controls/twips.h"
 #include "moveslist/listerror.h"
 #include "moveslist/moveslistblock.h"
 #include "moveslist/usercontrol1.h"

@@ -1,6 +1,6 @@
 #include "window/form1.h"
 
-#include "controls/key_numbers.h"
+#include "common/key_numbers.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "controls/key_numbers.h"
+#include "common/key_numbers.h"
 
 #include <QKeyEvent>
 

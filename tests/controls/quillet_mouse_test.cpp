@@ -1,5 +1,5 @@
+#include "common/twips.h"
 #include "controls/quillet.h"
-#include "controls/twips.h"
 
 #include <QMouseEvent>
 #include <QTest>

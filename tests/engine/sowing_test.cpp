@@ -1,6 +1,6 @@
 #include "game_fixture.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 namespace {
 
@@ -83,29 +83,9 @@ TEST_F(Rules, HugeCountsStopAtTheLimitInsteadOfTurningNegative)
     EXPECT_EQ(screen.totalB[2], "32767");
 }
 
-TEST(NumberText, CountsFillThreePlacesAndNumbersTakeOneBlank)
+TEST(NumberText, CountsFillThreePlaces)
 {
     EXPECT_EQ(Game::StrCount(3), "  3");
     EXPECT_EQ(Game::StrCount(12), " 12");
     EXPECT_EQ(Game::StrCount(1188), "1188");
-    EXPECT_EQ(NumberText(5), " 5");
-    EXPECT_EQ(NumberText(-1), "-1");
-}
-
-TEST(NumberText, ReadsTheLeadingNumberOfAText)
-{
-    const std::pair<const char*, double> reads[] = {
-        {"  12", 12}, {"12abc", 12}, {"-4", -4}, {"2.5x", 2.5}, {"1e3", 1000},
-        {"5e", 5},    {"", 0},       {"abc", 0}, {"-", 0},      {" . ", 0},
-    };
-    for (const auto& [text, value] : reads)
-        EXPECT_EQ(NumericRead(text), value) << '"' << text << '"';
-
-    int16_t out = 0;
-    EXPECT_TRUE(NumericRead16("2.5", out));
-    EXPECT_EQ(out, 2) << "halves go to the even neighbour";
-    EXPECT_TRUE(NumericRead16("3.5", out));
-    EXPECT_EQ(out, 4);
-    EXPECT_FALSE(NumericRead16("99999", out));
-    EXPECT_FALSE(NumericRead16("1e400", out));
 }

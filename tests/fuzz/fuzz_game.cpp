@@ -23,8 +23,8 @@ class GameRun {
 public:
     explicit GameRun(FuzzInput& in) : in(in)
     {
-        screen.game = &game;
-        screen.onDoEvents = [this] { WhilePaused(); };
+        screen.onPendingEvents = [this] { whilePaused(); };
+        screen.onStartBeadsChange = [this] { game.StartBeads_Change(); };
         game.Form_Load();
         Settle();
     }
@@ -54,15 +54,6 @@ private:
         return isHumanPot(s) ? screen.potEnabled[s] : !state.GameFinished;
     }
 
-    // What the window's Pots_MouseDown does before the release of a right button.
-    void RightPress()
-    {
-        if (game.busy() || state.GameFinished)
-            return;
-        state.PreviewActive = true;
-        state.PreviewBeads = state.Beads;
-    }
-
     bool Idle() const { return !game.busy() && !state.GameFinished && !state.PreviewActive; }
 
     void Act(int kind)
@@ -84,7 +75,7 @@ private:
             const auto s = static_cast<int16_t>(in.pick(SlotCount));
             if (!TakesEvents(s))
                 return;
-            RightPress();
+            game.Pots_MouseDown(s, 2, 0, 0, 0);
             return game.Pots_MouseUp(s, 2, 0, 0, 0);
         }
         case 2: {
@@ -108,7 +99,7 @@ private:
             return game.GiveHint_MouseUp(1, 0, 0, 0);
         case 7:
             if (screen.commandFrameEnabled)
-                state.PauseAtMoves = !state.PauseAtMoves;
+                game.Pausex_Click();
             return;
         case 8:
             return game.Form_KeyDown(in.word(), static_cast<int16_t>(in.pick(8)));

@@ -1,4 +1,4 @@
-#include "controls/twips.h"
+#include "common/twips.h"
 #include "help_fixture.h"
 #include "helpabout/webbrowser.h"
 

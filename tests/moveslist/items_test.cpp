@@ -289,10 +289,10 @@ TEST_F(HoverTip, OnlyARowWiderThanTheCanvasShowsItsText)
     EXPECT_EQ(tipOver(0), "");
     // The test is strictly greater; a row never painted has an empty width, read as 0.
     const QString canvasWidth =
-        moveslist::NumberText(HalfEven(probe.canvasWidth() * TwipsPerPixelX()));
+        moveslist::numberText(HalfEven(probe.canvasWidth() * TwipsPerPixelX()));
     probe.column(3, DrawnWidth, canvasWidth);
     EXPECT_EQ(tipOver(2), "");
-    probe.column(3, DrawnWidth, moveslist::NumberText(canvasWidth.toInt() + 1));
+    probe.column(3, DrawnWidth, moveslist::numberText(canvasWidth.toInt() + 1));
     EXPECT_EQ(tipOver(2), "item 3");
     probe.column(3, DrawnWidth, "");
     EXPECT_EQ(tipOver(2), "");

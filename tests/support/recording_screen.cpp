@@ -1,6 +1,6 @@
 #include "recording_screen.h"
 
-#include "engine/number_text.h"
+#include "common/numbers.h"
 
 #include <algorithm>
 #include <sstream>
@@ -21,14 +21,14 @@ void RecordingScreen::DrawPot(int16_t Pot, const std::string& Text)
     record("draw:" + std::to_string(Pot) + ":" + Text);
     if (!isSlot(Pot))
         return;
-    tags[Pot] = NumericRead(Text) == 0 && !isBank(Pot) ? std::string() : Text;
+    tags[Pot] = numericRead(Text) == 0 && !isBank(Pot) ? std::string() : Text;
     hot[Pot] = false;
 }
 
 void RecordingScreen::DrawPotHot(int16_t Pot, const std::string& Text)
 {
     record("hot:" + std::to_string(Pot) + ":" + Text);
-    if (!isHumanPot(Pot) || NumericRead(Text) == 0)
+    if (!isHumanPot(Pot) || numericRead(Text) == 0)
         return;
     tags[Pot] = Text;
     hot[Pot] = true;

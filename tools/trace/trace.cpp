@@ -1,6 +1,6 @@
 #include "tools/trace/trace.h"
 
-#include "controls/key_numbers.h"
+#include "common/key_numbers.h"
 #include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "moveslist/itemrecord.h"

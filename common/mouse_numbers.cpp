@@ -1,4 +1,4 @@
-#include "controls/mouse_numbers.h"
+#include "common/mouse_numbers.h"
 
 int16_t ButtonNumber(Qt::MouseButtons buttons)
 {

@@ -1,14 +1,14 @@
-#include "controls/twips.h"
+#include "common/twips.h"
+
+#include "common/numbers.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <cmath>
-
 namespace Twips {
 
 namespace {
-constexpr float TwipsPerInch = 1440.0f;
+// A common 96 DPI desktop.
 constexpr float CommonTwipsPerPixel = 15.0f;
 } // namespace
 
@@ -19,13 +19,12 @@ float perPixel()
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen || screen->logicalDotsPerInch() <= 0)
         return CommonTwipsPerPixel;
-    return TwipsPerInch / static_cast<float>(screen->logicalDotsPerInch());
+    return static_cast<float>(TwipsPerInch / screen->logicalDotsPerInch());
 }
 
 int toPixels(float twips)
 {
-    // nearbyint keeps the default rounding mode: halves go to the even neighbour.
-    return static_cast<int>(std::nearbyint(twips / perPixel()));
+    return twipsToPixels(twips, perPixel());
 }
 
 float fromPixels(float pixels)
