@@ -11,7 +11,7 @@ namespace {
 constexpr int NoDisplay = 3;
 
 // Without a display Qt would abort with a long message; one clear line is kinder.
-bool HasDisplay()
+bool hasDisplay()
 {
     for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
         const char* value = std::getenv(name);
@@ -25,14 +25,14 @@ bool HasDisplay()
 
 int main(int argc, char* argv[])
 {
-    if (!HasDisplay()) {
+    if (!hasDisplay()) {
         std::fprintf(stderr, "tavok: no display found (DISPLAY is not set); "
                              "start it from a desktop session, or under xvfb-run\n");
         return NoDisplay;
     }
     QApplication app(argc, argv);
     // The score board's record lasts from one run to the next.
-    Marlets::Marlet::KeepRecords(true);
+    Marlets::Marlet::keepRecords(true);
     Form1 form;
     form.show();
     return app.exec();

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int Items = 32767;
 
-QString RandomText(std::mt19937& random, int length, const QString& letters)
+QString randomText(std::mt19937& random, int length, const QString& letters)
 {
     QString text;
     for (int i = 0; i < length; ++i)
@@ -24,43 +24,43 @@ QString RandomText(std::mt19937& random, int length, const QString& letters)
     return text;
 }
 
-const QStringList& RandomTexts()
+const QStringList& randomTexts()
 {
     static const QStringList texts = [] {
         std::mt19937 random(1);
         const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGH0123456789 ");
         QStringList made;
         for (int i = 0; i < Items; ++i)
-            made << RandomText(random, 8 + int(random() % 33), letters);
+            made << randomText(random, 8 + int(random() % 33), letters);
         return made;
     }();
     return texts;
 }
 
-const QStringList& IdenticalTexts()
+const QStringList& identicalTexts()
 {
     static const QStringList texts(Items, QStringLiteral("HUMAN  pot C: 4 beads"));
     return texts;
 }
 
 // 200 characters each, full of a's and without a single b.
-const QStringList& LongTexts()
+const QStringList& longTexts()
 {
     static const QStringList texts = [] {
         std::mt19937 random(2);
         const QString letters = QStringLiteral("aaacdefghij ");
         QStringList made;
         for (int i = 0; i < Items; ++i)
-            made << RandomText(random, 200, letters);
+            made << randomText(random, 200, letters);
         return made;
     }();
     return texts;
 }
 
 // The list as a host sets it up, with the first rows painted, so that a sort repaints.
-std::unique_ptr<UserControl1> FilledList(const QStringList& texts)
+std::unique_ptr<UserControl1> filledList(const QStringList& texts)
 {
-    std::unique_ptr<UserControl1> list(UserControl1::FromBlock(lbblock::Write(PropertyBag())));
+    std::unique_ptr<UserControl1> list(UserControl1::fromBlock(lbblock::write(PropertyBag())));
     list->DropDownHeight(3750);
     list->Mode(0);
     for (QString s : texts)
@@ -69,11 +69,11 @@ std::unique_ptr<UserControl1> FilledList(const QStringList& texts)
     return list;
 }
 
-void ListSort(benchmark::State& state, const QStringList& texts)
+void listSort(benchmark::State& state, const QStringList& texts)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        auto list = FilledList(texts);
+        auto list = filledList(texts);
         state.ResumeTiming();
         list->SortAscending();
         state.PauseTiming();
@@ -82,7 +82,7 @@ void ListSort(benchmark::State& state, const QStringList& texts)
     }
 }
 
-void WidgetSort(benchmark::State& state, const QStringList& texts)
+void widgetSort(benchmark::State& state, const QStringList& texts)
 {
     QListWidget list;
     for (auto _ : state) {
@@ -96,22 +96,22 @@ void WidgetSort(benchmark::State& state, const QStringList& texts)
 
 void BM_ListSortRandomTexts(benchmark::State& state)
 {
-    ListSort(state, RandomTexts());
+    listSort(state, randomTexts());
 }
 
 void BM_QListWidgetSortRandomTexts(benchmark::State& state)
 {
-    WidgetSort(state, RandomTexts());
+    widgetSort(state, randomTexts());
 }
 
 void BM_ListSortIdenticalTexts(benchmark::State& state)
 {
-    ListSort(state, IdenticalTexts());
+    listSort(state, identicalTexts());
 }
 
 void BM_QListWidgetSortIdenticalTexts(benchmark::State& state)
 {
-    WidgetSort(state, IdenticalTexts());
+    widgetSort(state, identicalTexts());
 }
 
 // The pattern named in the target, and the same with a star behind it, which leaves the
@@ -119,9 +119,9 @@ void BM_QListWidgetSortIdenticalTexts(benchmark::State& state)
 const QString EndsInB = QStringLiteral("*a*a*a*a*a*a*a*a*b");
 const QString HoldsB = QStringLiteral("*a*a*a*a*a*a*a*a*b*");
 
-void ListFind(benchmark::State& state, const QString& pattern)
+void listFind(benchmark::State& state, const QString& pattern)
 {
-    auto list = FilledList(LongTexts());
+    auto list = filledList(longTexts());
     for (auto _ : state) {
         const AnyValue found = list->Find(0, 0, pattern);
         if (!(found == AnyValue(0))) {
@@ -131,10 +131,10 @@ void ListFind(benchmark::State& state, const QString& pattern)
     }
 }
 
-void WidgetFind(benchmark::State& state, const QString& pattern)
+void widgetFind(benchmark::State& state, const QString& pattern)
 {
     QListWidget list;
-    list.addItems(LongTexts());
+    list.addItems(longTexts());
     for (auto _ : state) {
         if (!list.findItems(pattern, Qt::MatchWildcard).isEmpty()) {
             state.SkipWithError("an item was found");
@@ -145,22 +145,22 @@ void WidgetFind(benchmark::State& state, const QString& pattern)
 
 void BM_ListFindEndsInB(benchmark::State& state)
 {
-    ListFind(state, EndsInB);
+    listFind(state, EndsInB);
 }
 
 void BM_QListWidgetFindEndsInB(benchmark::State& state)
 {
-    WidgetFind(state, EndsInB);
+    widgetFind(state, EndsInB);
 }
 
 void BM_ListFindHoldsB(benchmark::State& state)
 {
-    ListFind(state, HoldsB);
+    listFind(state, HoldsB);
 }
 
 void BM_QListWidgetFindHoldsB(benchmark::State& state)
 {
-    WidgetFind(state, HoldsB);
+    widgetFind(state, HoldsB);
 }
 
 BENCHMARK(BM_ListSortRandomTexts)->Unit(benchmark::kMillisecond)->Iterations(10);

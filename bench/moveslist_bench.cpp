@@ -23,9 +23,9 @@ QString Line(int i)
     return QStringLiteral("%1 HUMAN  pot C: 4 beads, last in the bank").arg(i);
 }
 
-std::unique_ptr<UserControl1> FilledMovesList(int count)
+std::unique_ptr<UserControl1> filledMovesList(int count)
 {
-    std::unique_ptr<UserControl1> list(UserControl1::FromBlock(MovesListBlock()));
+    std::unique_ptr<UserControl1> list(UserControl1::fromBlock(movesListBlock()));
     setUpMovesLog(*list);
     for (int i = 0; i < count; ++i) {
         QString s = Line(i);
@@ -42,7 +42,7 @@ std::unique_ptr<UserControl1> FilledMovesList(int count)
 void BM_MovesListAdditemOnTop(benchmark::State& state)
 {
     const auto count = static_cast<int>(state.range(0));
-    auto list = FilledMovesList(count);
+    auto list = filledMovesList(count);
     if (!list) {
         state.SkipWithError("the list never showed");
         return;
@@ -63,7 +63,7 @@ void BM_MovesListAdditemOnTop(benchmark::State& state)
     }
 }
 
-void InsertOnTop(benchmark::State& state, bool layOutFirst)
+void insertOnTop(benchmark::State& state, bool layOutFirst)
 {
     const auto count = static_cast<int>(state.range(0));
     QListWidget list;
@@ -89,23 +89,23 @@ void InsertOnTop(benchmark::State& state, bool layOutFirst)
 
 void BM_QListWidgetInsertOnTop(benchmark::State& state)
 {
-    InsertOnTop(state, false);
+    insertOnTop(state, false);
 }
 
 void BM_QListWidgetInsertOnTopLaidOut(benchmark::State& state)
 {
-    InsertOnTop(state, true);
+    insertOnTop(state, true);
 }
 
-void Sizes(benchmark::internal::Benchmark* bench)
+void sizes(benchmark::internal::Benchmark* bench)
 {
     for (const int count : {100, 1000, 10000, 32767})
         bench->Arg(count);
     bench->Unit(benchmark::kMicrosecond);
 }
 
-BENCHMARK(BM_MovesListAdditemOnTop)->Apply(Sizes);
-BENCHMARK(BM_QListWidgetInsertOnTop)->Apply(Sizes);
-BENCHMARK(BM_QListWidgetInsertOnTopLaidOut)->Apply(Sizes);
+BENCHMARK(BM_MovesListAdditemOnTop)->Apply(sizes);
+BENCHMARK(BM_QListWidgetInsertOnTop)->Apply(sizes);
+BENCHMARK(BM_QListWidgetInsertOnTopLaidOut)->Apply(sizes);
 
 } // namespace

@@ -23,7 +23,7 @@ constexpr std::array<std::pair<int, int16_t>, 35> NamedKeys{{
 
 } // namespace
 
-int16_t KeyNumber(const QKeyEvent& event)
+int16_t keyNumber(const QKeyEvent& event)
 {
     const int key = event.key();
     // Keys of the number pad type their digits from their own codes, 96 to 105.
@@ -39,7 +39,7 @@ int16_t KeyNumber(const QKeyEvent& event)
     return 0;
 }
 
-std::optional<int16_t> KeyAscii(const QKeyEvent& event)
+std::optional<int16_t> keyAscii(const QKeyEvent& event)
 {
     const QString text = event.text();
     if (text.isEmpty() || text[0].unicode() > 0x7FFF)

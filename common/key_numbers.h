@@ -20,10 +20,10 @@ constexpr int16_t Up = 38;
 constexpr int16_t Down = 40;
 } // namespace key
 
-int16_t KeyNumber(const QKeyEvent& event);
+int16_t keyNumber(const QKeyEvent& event);
 
 // The character a key types, as its code; none for a key that types nothing.
-std::optional<int16_t> KeyAscii(const QKeyEvent& event);
+std::optional<int16_t> keyAscii(const QKeyEvent& event);
 
 // The other way, for tools that press keys by their codes; 0 when there is none.
 int QtKeyFor(int16_t code);

@@ -1,6 +1,6 @@
 #include "common/mouse_numbers.h"
 
-int16_t ButtonNumber(Qt::MouseButtons buttons)
+int16_t buttonNumber(Qt::MouseButtons buttons)
 {
     int16_t number = 0;
     if (buttons & Qt::LeftButton)
@@ -12,7 +12,7 @@ int16_t ButtonNumber(Qt::MouseButtons buttons)
     return number;
 }
 
-int16_t ShiftNumber(Qt::KeyboardModifiers modifiers)
+int16_t shiftNumber(Qt::KeyboardModifiers modifiers)
 {
     int16_t number = 0;
     if (modifiers & Qt::ShiftModifier)

@@ -6,5 +6,5 @@
 
 // The game's numbers for mouse buttons (1 left, 2 right, 4 middle) and for the shift
 // keys held with them (1 shift, 2 ctrl, 4 alt).
-int16_t ButtonNumber(Qt::MouseButtons buttons);
-int16_t ShiftNumber(Qt::KeyboardModifiers modifiers);
+int16_t buttonNumber(Qt::MouseButtons buttons);
+int16_t shiftNumber(Qt::KeyboardModifiers modifiers);

@@ -91,7 +91,7 @@ void Marlet::showRow(const Row& row, bool shown)
 
 bool Marlet::s_keepRecords = false;
 
-void Marlet::KeepRecords(bool keep)
+void Marlet::keepRecords(bool keep)
 {
     s_keepRecords = keep;
 }
@@ -163,7 +163,7 @@ void Marlet::ScoreShow(bool New_ScoreShow)
         refresh();
 }
 
-void Marlet::ZOrder(int position)
+void Marlet::zOrder(int position)
 {
     if (position == 0)
         raise();

@@ -28,11 +28,11 @@ public:
     void ScoreShow(bool New_ScoreShow);
     void Visible(bool New_Visible) { setVisible(New_Visible); }
     // 0 brings the board in front of its neighbours, 1 sends it behind them.
-    void ZOrder(int position);
+    void zOrder(int position);
 
     // The record of each title outlives the program once this is switched on; the game
     // does, tests and tools do not, so that they never touch the player's own record.
-    static void KeepRecords(bool keep);
+    static void keepRecords(bool keep);
 
     int wins() const { return m_wins; }
     int losses() const { return m_losses; }

@@ -123,11 +123,11 @@ void Quillet::Top(float New_Top)
     move(x(), Twips::toPixels(New_Top));
 }
 
-void Quillet::Move(float Left, float Top, float Width, float Height)
+void Quillet::place(float left, float top, float width, float height)
 {
-    m_left = Left;
-    m_top = Top;
-    setGeometry(Twips::toPixels(Left, Top, Width, Height));
+    m_left = left;
+    m_top = top;
+    setGeometry(Twips::toPixels(left, top, width, height));
 }
 
 void Quillet::forecolor(const QColor& New_forecolor)
@@ -248,8 +248,8 @@ void Quillet::mousePressEvent(QMouseEvent* event)
         m_pressedInside = true;
         update();
     }
-    const int16_t button = ButtonNumber(event->button());
-    const int16_t shift = ShiftNumber(event->modifiers());
+    const int16_t button = buttonNumber(event->button());
+    const int16_t shift = shiftNumber(event->modifiers());
     deliver([&] { emit MouseDown(button, shift, twipsX(event), twipsY(event)); });
 }
 
@@ -259,8 +259,8 @@ void Quillet::mouseReleaseEvent(QMouseEvent* event)
                            rect().contains(event->position().toPoint());
     if (event->button() == Qt::LeftButton)
         forgetPress();
-    const int16_t button = ButtonNumber(event->button());
-    const int16_t shift = ShiftNumber(event->modifiers());
+    const int16_t button = buttonNumber(event->button());
+    const int16_t shift = shiftNumber(event->modifiers());
     QPointer<Quillet> alive(this);
     deliver([&] { emit MouseUp(button, shift, twipsX(event), twipsY(event)); });
     // The handler of the release may have closed the face or turned it off; then the
@@ -279,8 +279,8 @@ void Quillet::mouseMoveEvent(QMouseEvent* event)
             update();
         }
     }
-    const int16_t button = ButtonNumber(event->buttons());
-    const int16_t shift = ShiftNumber(event->modifiers());
+    const int16_t button = buttonNumber(event->buttons());
+    const int16_t shift = shiftNumber(event->modifiers());
     deliver([&] { emit MouseMove(button, shift, twipsX(event), twipsY(event)); });
 }
 

@@ -32,7 +32,7 @@ public:
     void Left(float New_Left);
     float Top() const;
     void Top(float New_Top);
-    void Move(float Left, float Top, float Width, float Height);
+    void place(float left, float top, float width, float height);
 
     QColor forecolor() const { return m_forecolor; }
     void forecolor(const QColor& New_forecolor);

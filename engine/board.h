@@ -66,10 +66,10 @@ constexpr int16_t clampCount(int v)
 }
 
 // Colours of the log, 0x00BBGGRR.
-constexpr int32_t Rgb(int r, int g, int b)
+constexpr int32_t rgb(int r, int g, int b)
 {
     return r | (g << 8) | (b << 16);
 }
-constexpr int32_t HumanGreen = Rgb(0, 128, 0);
-constexpr int32_t ComputerRed = Rgb(128, 0, 0);
-constexpr int32_t HintBlack = Rgb(0, 0, 0);
+constexpr int32_t HumanGreen = rgb(0, 128, 0);
+constexpr int32_t ComputerRed = rgb(128, 0, 0);
+constexpr int32_t HintBlack = rgb(0, 0, 0);

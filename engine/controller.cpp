@@ -134,10 +134,10 @@ void Game::NewGame()
     m_screen.setHandVisible(false);
 }
 
-void Game::layOutBoard(int16_t Count)
+void Game::layOutBoard(int16_t count)
 {
     for (int s = FirstHumanPot; s <= LastComputerPot; ++s)
-        Beads[s] = Count;
+        Beads[s] = count;
     Beads[HumanBank] = 0;
     Beads[ComputerBank] = 0;
 }

@@ -71,7 +71,7 @@ public:
     bool busy() const { return computerMoving || HintActive; }
 
 private:
-    void layOutBoard(int16_t Count);
+    void layOutBoard(int16_t count);
     void replyAndHandBack(const std::string& caption);
     int16_t creditCapture();
     void clearCapturedPots();

@@ -19,7 +19,7 @@ constexpr QRect Text1Place{60, 30, 4095, 1755};
 // Three empty lines set the name and the address low in the box.
 const QString AboutText = QStringLiteral("\n\n\nTAVOK by Dravo\nemail dravo@tavok.example");
 
-QFont FormFont()
+QFont formFont()
 {
     QFont font(QStringLiteral("MS Sans Serif"));
     font.setPointSizeF(8.25);
@@ -34,8 +34,8 @@ AboutForm::AboutForm(QWidget* parent)
                           Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint)
 {
     setWindowTitle(QStringLiteral("About TAVOK"));
-    setWindowIcon(QIcon(MiniatureBoard()));
-    setFont(FormFont());
+    setWindowIcon(QIcon(miniatureBoard()));
+    setFont(formFont());
     const QRect client = Twips::toPixels(ClientPlace);
     setGeometry(client);
     setFixedSize(client.size());
@@ -47,7 +47,7 @@ AboutForm::AboutForm(QWidget* parent)
     Picture1 = new QLabel(this);
     Picture1->setGeometry(Twips::toPixels(Picture1Place));
     Picture1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    Picture1->setPixmap(MiniatureBoard());
+    Picture1->setPixmap(miniatureBoard());
 
     Label1 = new QLabel(QStringLiteral("Version 1.0"), this);
     Label1->setGeometry(Twips::toPixels(Label1Place));
@@ -106,21 +106,21 @@ bool AboutForm::eventFilter(QObject* watched, QEvent* event)
 
 void AboutForm::AboutOk_Click()
 {
-    Unload();
+    unload();
 }
 
 void AboutForm::Form_MouseDown()
 {
-    Unload();
+    unload();
 }
 
 void AboutForm::Text1_MouseUp()
 {
-    Unload();
+    unload();
 }
 
 // Closing from the frame ends here too, through QDialog's own close handling.
-void AboutForm::Unload()
+void AboutForm::unload()
 {
     reject();
 }

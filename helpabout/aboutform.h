@@ -25,7 +25,7 @@ private:
     void AboutOk_Click();
     void Form_MouseDown();
     void Text1_MouseUp();
-    void Unload();
+    void unload();
 
     QPushButton* AboutOk;
     QLabel* Picture1;

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-QPixmap MiniatureBoard()
+QPixmap miniatureBoard()
 {
     static const QString path = QStringLiteral(":/assets/board.png");
     if (!QFile::exists(path))

@@ -22,7 +22,7 @@ constexpr QRect BrowserPlace{30, 420, 7110, 5460};
 constexpr double FrameWidthAllowance = 120;
 constexpr double FrameHeightAllowance = 480;
 
-QFont ButtonFont()
+QFont buttonFont()
 {
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(8.25);
@@ -37,7 +37,7 @@ HelpForm::HelpForm(QWidget* parent) : QWidget(parent, Qt::Window)
     // Closing from the frame unloads the window; the next "Help" builds a new one.
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Tavok Help"));
-    setWindowIcon(QIcon(MiniatureBoard()));
+    setWindowIcon(QIcon(miniatureBoard()));
     resize(Twips::toPixels(ClientWidth), Twips::toPixels(ClientHeight));
 
     Command1 = addButton(QStringLiteral("Back"), Twips::toPixels(Command1Place));
@@ -59,18 +59,18 @@ HelpForm::HelpForm(QWidget* parent) : QWidget(parent, Qt::Window)
 
 void HelpForm::Tag(const QString& path)
 {
-    tag = path;
+    m_tag = path;
 }
 
 QString HelpForm::Tag() const
 {
-    return tag;
+    return m_tag;
 }
 
 // Every return to this window shows the page afresh, from its top.
 void HelpForm::Form_Activate()
 {
-    WebBrowser1->Navigate(tag);
+    WebBrowser1->Navigate(m_tag);
 }
 
 // The browser's lower and right edges follow the frame; a window made too small
@@ -137,7 +137,7 @@ void HelpForm::moveEvent(QMoveEvent* event)
 QPushButton* HelpForm::addButton(const QString& text, const QRect& place)
 {
     auto* button = new QPushButton(text, this);
-    button->setFont(ButtonFont());
+    button->setFont(buttonFont());
     button->setGeometry(place);
     return button;
 }

@@ -37,5 +37,5 @@ private:
     QPushButton* Command2;
     QPushButton* Command3;
     WebBrowser* WebBrowser1;
-    QString tag;
+    QString m_tag;
 };

@@ -9,13 +9,13 @@
 
 namespace {
 
-QUrl WithoutFragment(QUrl address)
+QUrl withoutFragment(QUrl address)
 {
     address.setFragment(QString());
     return address;
 }
 
-QUrl AddressOf(const QString& path)
+QUrl addressOf(const QString& path)
 {
     if (path.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
         return QUrl(path);
@@ -24,42 +24,42 @@ QUrl AddressOf(const QString& path)
 
 } // namespace
 
-WebBrowser::WebBrowser(QWidget* parent) : QWidget(parent), view(new QTextBrowser(this))
+WebBrowser::WebBrowser(QWidget* parent) : QWidget(parent), m_view(new QTextBrowser(this))
 {
     // We follow links ourselves: only jumps inside the page are taken.
-    view->setOpenLinks(false);
-    view->setOpenExternalLinks(false);
-    setFocusProxy(view);
-    connect(view, &QTextBrowser::anchorClicked, this, &WebBrowser::followLink);
+    m_view->setOpenLinks(false);
+    m_view->setOpenExternalLinks(false);
+    setFocusProxy(m_view);
+    connect(m_view, &QTextBrowser::anchorClicked, this, &WebBrowser::followLink);
 }
 
 void WebBrowser::Navigate(const QString& path)
 {
-    const QUrl address = AddressOf(path);
-    load(WithoutFragment(address));
+    const QUrl address = addressOf(path);
+    load(withoutFragment(address));
     visit(address);
     place(address.fragment());
 }
 
 QString WebBrowser::LocationURL() const
 {
-    if (current < 0)
+    if (m_current < 0)
         return {};
-    return history[current].toString();
+    return m_history[m_current].toString();
 }
 
 void WebBrowser::GoBack()
 {
-    if (current <= 0)
+    if (m_current <= 0)
         return;
-    showEntry(current - 1);
+    showEntry(m_current - 1);
 }
 
 void WebBrowser::GoForward()
 {
-    if (current < 0 || current + 1 >= history.size())
+    if (m_current < 0 || m_current + 1 >= m_history.size())
         return;
-    showEntry(current + 1);
+    showEntry(m_current + 1);
 }
 
 double WebBrowser::Top() const
@@ -82,15 +82,15 @@ void WebBrowser::Height(double twips)
 void WebBrowser::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    view->setGeometry(rect());
+    m_view->setGeometry(rect());
 }
 
 void WebBrowser::followLink(const QUrl& link)
 {
-    if (current < 0)
+    if (m_current < 0)
         return;
-    const QUrl address = history[current].resolved(link);
-    const bool insidePage = WithoutFragment(address) == WithoutFragment(history[current]);
+    const QUrl address = m_history[m_current].resolved(link);
+    const bool insidePage = withoutFragment(address) == withoutFragment(m_history[m_current]);
     if (!insidePage || address.fragment().isEmpty())
         return;
     visit(address);
@@ -100,44 +100,44 @@ void WebBrowser::followLink(const QUrl& link)
 // A new address cuts off whatever lay forward of the current one.
 void WebBrowser::visit(const QUrl& address)
 {
-    if (current >= 0 && history[current] == address)
+    if (m_current >= 0 && m_history[m_current] == address)
         return;
-    history.resize(current + 1);
-    history.append(address);
-    current = history.size() - 1;
+    m_history.resize(m_current + 1);
+    m_history.append(address);
+    m_current = m_history.size() - 1;
 }
 
 void WebBrowser::showEntry(qsizetype entry)
 {
-    current = entry;
-    const QUrl& address = history[entry];
-    if (WithoutFragment(address) != loadedPage)
-        load(WithoutFragment(address));
+    m_current = entry;
+    const QUrl& address = m_history[entry];
+    if (withoutFragment(address) != m_loadedPage)
+        load(withoutFragment(address));
     place(address.fragment());
 }
 
 void WebBrowser::load(const QUrl& page)
 {
-    loadedPage = page;
+    m_loadedPage = page;
     // Pictures of the page lie beside it.
-    view->document()->setBaseUrl(page);
+    m_view->document()->setBaseUrl(page);
     QFile file(page.toLocalFile());
     // A page that is gone leaves the window empty; the reason goes to standard error,
     // where a packager looks.
     if (!file.open(QIODevice::ReadOnly)) {
-        view->clear();
+        m_view->clear();
         qWarning().noquote() << "Help page not found:" << page.toLocalFile();
         return;
     }
-    view->setHtml(QString::fromUtf8(file.readAll()));
+    m_view->setHtml(QString::fromUtf8(file.readAll()));
 }
 
 void WebBrowser::place(const QString& fragment)
 {
     if (fragment.isEmpty()) {
-        view->verticalScrollBar()->setValue(0);
-        view->horizontalScrollBar()->setValue(0);
+        m_view->verticalScrollBar()->setValue(0);
+        m_view->horizontalScrollBar()->setValue(0);
         return;
     }
-    view->scrollToAnchor(fragment);
+    m_view->scrollToAnchor(fragment);
 }

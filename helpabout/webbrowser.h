@@ -37,8 +37,8 @@ private:
     void load(const QUrl& page);
     void place(const QString& fragment);
 
-    QTextBrowser* view;
-    QList<QUrl> history;
-    qsizetype current = -1;
-    QUrl loadedPage;
+    QTextBrowser* m_view;
+    QList<QUrl> m_history;
+    qsizetype m_current = -1;
+    QUrl m_loadedPage;
 };

@@ -5,16 +5,16 @@
 
 double AnyValue::toNumber() const
 {
-    if (const double* number = std::get_if<double>(&value))
+    if (const double* number = std::get_if<double>(&m_value))
         return *number;
-    if (const QString* text = std::get_if<QString>(&value))
+    if (const QString* text = std::get_if<QString>(&m_value))
         return moveslist::numericRead(*text);
     return 0;
 }
 
 double AnyValue::toNumberStrict() const
 {
-    const QString* text = std::get_if<QString>(&value);
+    const QString* text = std::get_if<QString>(&m_value);
     if (!text)
         return toNumber();
     bool ok = false;
@@ -27,9 +27,9 @@ double AnyValue::toNumberStrict() const
 
 QString AnyValue::toText() const
 {
-    if (const QString* text = std::get_if<QString>(&value))
+    if (const QString* text = std::get_if<QString>(&m_value))
         return *text;
-    if (const double* number = std::get_if<double>(&value))
+    if (const double* number = std::get_if<double>(&m_value))
         return moveslist::numberText(*number).trimmed();
     return {};
 }

@@ -12,14 +12,14 @@ public:
     AnyValue() = default;
     template <typename T>
     requires(std::is_arithmetic_v<T> && !std::is_same_v<T, bool>) AnyValue(T number)
-        : value(static_cast<double>(number))
+        : m_value(static_cast<double>(number))
     {}
-    AnyValue(const QString& text) : value(text) {}
-    AnyValue(const char* text) : value(QString::fromUtf8(text)) {}
+    AnyValue(const QString& text) : m_value(text) {}
+    AnyValue(const char* text) : m_value(QString::fromUtf8(text)) {}
 
-    bool isEmpty() const { return std::holds_alternative<std::monostate>(value); }
-    bool isNumber() const { return std::holds_alternative<double>(value); }
-    bool isText() const { return std::holds_alternative<QString>(value); }
+    bool isEmpty() const { return std::holds_alternative<std::monostate>(m_value); }
+    bool isNumber() const { return std::holds_alternative<double>(m_value); }
+    bool isText() const { return std::holds_alternative<QString>(m_value); }
 
     // The lenient reading used for columns and indices: a text gives its leading
     // number, or 0; the empty value gives 0.
@@ -33,5 +33,5 @@ public:
     bool operator==(const AnyValue& other) const = default;
 
 private:
-    std::variant<std::monostate, double, QString> value;
+    std::variant<std::monostate, double, QString> m_value;
 };

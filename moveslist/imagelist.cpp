@@ -5,32 +5,32 @@
 #include <QDataStream>
 #include <QIODevice>
 
-void ImageList::Add(const QImage& picture)
+void ImageList::add(const QImage& picture)
 {
-    images.push_back({picture});
+    m_images.push_back({picture});
 }
 
 const ImageList::ListImage& ImageList::ListImages(int index) const
 {
-    if (index < 1 || index > Count())
+    if (index < 1 || index > count())
         throw ListError(
             ListErrorCode::ImageIndexOutOfBounds,
             QStringLiteral("Index out of bounds: the image list has no picture %1").arg(index));
-    return images[static_cast<size_t>(index - 1)];
+    return m_images[static_cast<size_t>(index - 1)];
 }
 
-QByteArray ImageList::Save() const
+QByteArray ImageList::save() const
 {
     QByteArray data;
     QDataStream out(&data, QIODevice::WriteOnly);
     out.setVersion(QDataStream::Qt_6_0);
-    out << static_cast<qint32>(images.size());
-    for (const ListImage& image : images)
+    out << static_cast<qint32>(m_images.size());
+    for (const ListImage& image : m_images)
         out << image.Picture;
     return data;
 }
 
-ImageList ImageList::Load(const QByteArray& data)
+ImageList ImageList::load(const QByteArray& data)
 {
     QDataStream in(data);
     in.setVersion(QDataStream::Qt_6_0);
@@ -40,7 +40,7 @@ ImageList ImageList::Load(const QByteArray& data)
     for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
         QImage picture;
         in >> picture;
-        list.Add(picture);
+        list.add(picture);
     }
     if (count < 0 || in.status() != QDataStream::Ok)
         throw ListError(ListErrorCode::InvalidFileFormat,

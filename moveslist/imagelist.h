@@ -13,17 +13,17 @@ public:
         QImage Picture;
     };
 
-    void Add(const QImage& picture);
-    int Count() const { return static_cast<int>(images.size()); }
+    void add(const QImage& picture);
+    int count() const { return static_cast<int>(m_images.size()); }
 
     // An index outside 1 to Count is ListError 35600.
     const ListImage& ListImages(int index) const;
 
     // The form an image list takes as object data in a stored property block. A
     // block whose data does not read back is ListError 321.
-    QByteArray Save() const;
-    static ImageList Load(const QByteArray& data);
+    QByteArray save() const;
+    static ImageList load(const QByteArray& data);
 
 private:
-    std::vector<ListImage> images;
+    std::vector<ListImage> m_images;
 };

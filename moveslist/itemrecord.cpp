@@ -9,12 +9,12 @@ QStringList Split(const QString& record)
     return record.split(QLatin1Char('\t'));
 }
 
-QString Join(const QStringList& columns)
+QString join(const QStringList& columns)
 {
     return columns.join(QLatin1Char('\t'));
 }
 
-const QString& Column(const QStringList& columns, int c)
+const QString& column(const QStringList& columns, int c)
 {
     if (c < 0 || c >= columns.size())
         throw ListError(

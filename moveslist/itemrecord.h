@@ -15,9 +15,9 @@ constexpr int Colour = 4;
 constexpr int DrawnWidth = 5;
 
 QStringList Split(const QString& record);
-QString Join(const QStringList& columns);
+QString join(const QStringList& columns);
 
 // Column c of split columns; a record short of it is ListError 9, as entry 0 is.
-const QString& Column(const QStringList& columns, int c);
+const QString& column(const QStringList& columns, int c);
 
 } // namespace itemrecord

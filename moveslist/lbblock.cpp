@@ -13,7 +13,7 @@ namespace lbblock {
 
 namespace {
 
-[[noreturn]] void Refuse(const QString& what, qint64 offset)
+[[noreturn]] void refuse(const QString& what, qint64 offset)
 {
     throw ListError(ListErrorCode::InvalidFileFormat,
                     QStringLiteral("Invalid file format: %1 at byte %2 of the property block")
@@ -24,16 +24,16 @@ namespace {
 // Reads little-endian values from a block, never past its end.
 class Reader {
 public:
-    explicit Reader(const QByteArray& block) : data(block) {}
+    explicit Reader(const QByteArray& block) : m_data(block) {}
 
-    qint64 size() const { return data.size(); }
+    qint64 size() const { return m_data.size(); }
 
     template <typename T> T number(qint64 at) const
     {
         need(at, sizeof(T));
         std::array<uchar, sizeof(T)> bytes;
         for (size_t i = 0; i < sizeof(T); ++i)
-            bytes[i] = static_cast<uchar>(data.at(at + static_cast<qint64>(i)));
+            bytes[i] = static_cast<uchar>(m_data.at(at + static_cast<qint64>(i)));
         return qFromLittleEndian<T>(bytes.data());
     }
 
@@ -49,26 +49,26 @@ public:
     QByteArray bytes(qint64 at, qint64 count) const
     {
         need(at, count);
-        return data.mid(at, count);
+        return m_data.mid(at, count);
     }
 
     void need(qint64 at, qint64 count) const
     {
-        if (count < 0 || at < 0 || at + count > data.size())
-            Refuse(QStringLiteral("the block ends before the %1 bytes needed").arg(count), at);
+        if (count < 0 || at < 0 || at + count > m_data.size())
+            refuse(QStringLiteral("the block ends before the %1 bytes needed").arg(count), at);
     }
 
 private:
-    const QByteArray& data;
+    const QByteArray& m_data;
 };
 
-qint64 Padded(qint64 size)
+qint64 padded(qint64 size)
 {
     return (size + 3) / 4 * 4;
 }
 
 // The value of an entry at `at`; gives the number of bytes it takes.
-qint64 ReadValue(const Reader& in, qint64 at, PropertyEntry& entry)
+qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
 {
     switch (entry.type) {
     case PropertyType::Empty:
@@ -90,7 +90,7 @@ qint64 ReadValue(const Reader& in, qint64 at, PropertyEntry& entry)
         in.need(at + 4, characters * 2 + 2);
         entry.value = in.utf16(at + 4, characters);
         if (in.number<uint16_t>(at + 4 + characters * 2) != 0)
-            Refuse(QStringLiteral("a text without its closing zero"), at);
+            refuse(QStringLiteral("a text without its closing zero"), at);
         return 4 + characters * 2 + 2;
     }
     case PropertyType::Object: {
@@ -99,10 +99,10 @@ qint64 ReadValue(const Reader& in, qint64 at, PropertyEntry& entry)
         return 4 + count;
     }
     }
-    Refuse(QStringLiteral("an unknown value type %1").arg(int(entry.type)), at);
+    refuse(QStringLiteral("an unknown value type %1").arg(int(entry.type)), at);
 }
 
-bool KnownType(int16_t type)
+bool knownType(int16_t type)
 {
     switch (static_cast<PropertyType>(type)) {
     case PropertyType::Empty:
@@ -118,119 +118,119 @@ bool KnownType(int16_t type)
 }
 
 // One entry at `at`; gives its size and its step.
-std::pair<qint64, qint64> ReadEntry(const Reader& in, qint64 at, PropertyEntry& entry)
+std::pair<qint64, qint64> readEntry(const Reader& in, qint64 at, PropertyEntry& entry)
 {
     const auto type = in.number<int16_t>(at);
-    if (!KnownType(type))
-        Refuse(QStringLiteral("an unknown value type %1").arg(type), at);
+    if (!knownType(type))
+        refuse(QStringLiteral("an unknown value type %1").arg(type), at);
     entry.type = static_cast<PropertyType>(type);
     const auto keyLength = in.number<int16_t>(at + 2);
     if (keyLength <= 0)
-        Refuse(QStringLiteral("a key of length %1").arg(keyLength), at + 2);
+        refuse(QStringLiteral("a key of length %1").arg(keyLength), at + 2);
     entry.hash = in.number<uint32_t>(at + 4);
     const auto step = static_cast<qint64>(in.number<int32_t>(at + 8));
     entry.key = in.utf16(at + 12, keyLength);
-    const qint64 unpadded = 12 + 2 * keyLength + ReadValue(in, at + 12 + 2 * keyLength, entry);
-    const qint64 size = Padded(unpadded);
+    const qint64 unpadded = 12 + 2 * keyLength + readValue(in, at + 12 + 2 * keyLength, entry);
+    const qint64 size = padded(unpadded);
     const QByteArray padding = in.bytes(at + unpadded, size - unpadded);
     if (padding.count('\0') != padding.size())
-        Refuse(QStringLiteral("padding that is not zero"), at + unpadded);
+        refuse(QStringLiteral("padding that is not zero"), at + unpadded);
     return {size, step};
 }
 
-void CheckHeader(const Reader& in, const QByteArray& block)
+void checkHeader(const Reader& in, const QByteArray& block)
 {
     in.need(0, HeaderSize);
     if (!block.startsWith("-LB"))
-        Refuse(QStringLiteral("no \"-LB\" signature"), 0);
+        refuse(QStringLiteral("no \"-LB\" signature"), 0);
     if (in.number<int16_t>(3) != BlockKind)
-        Refuse(
+        refuse(
             QStringLiteral("block kind %1 instead of %2").arg(in.number<int16_t>(3)).arg(BlockKind),
             3);
     const uint32_t count = in.number<uint32_t>(5);
     if (in.number<uint32_t>(9) != Marker)
-        Refuse(QStringLiteral("a wrong marker"), 9);
+        refuse(QStringLiteral("a wrong marker"), 9);
     if (in.number<uint32_t>(13) != count)
-        Refuse(QStringLiteral("two byte counts that differ"), 13);
+        refuse(QStringLiteral("two byte counts that differ"), 13);
     if (static_cast<qint64>(count) + 9 != in.size())
-        Refuse(
+        refuse(
             QStringLiteral("a byte count of %1 for a block of %2 bytes").arg(count).arg(in.size()),
             5);
 }
 
 } // namespace
 
-PropertyBag Read(const QByteArray& block)
+PropertyBag read(const QByteArray& block)
 {
     const Reader in(block);
-    CheckHeader(in, block);
+    checkHeader(in, block);
     PropertyBag bag;
     qint64 at = HeaderSize;
     while (at < in.size()) {
         PropertyEntry entry;
-        const auto [size, step] = ReadEntry(in, at, entry);
+        const auto [size, step] = readEntry(in, at, entry);
         bag.add(std::move(entry));
         if (step <= 0) {
             if (at + step != HeaderSize)
-                Refuse(QStringLiteral("a last step that does not lead back to the first entry"),
+                refuse(QStringLiteral("a last step that does not lead back to the first entry"),
                        at + 8);
             if (at + size != in.size())
-                Refuse(QStringLiteral("bytes after the last entry"), at + size);
+                refuse(QStringLiteral("bytes after the last entry"), at + size);
             return bag;
         }
         if (step != size)
-            Refuse(QStringLiteral("a step of %1 for an entry of %2 bytes").arg(step).arg(size),
+            refuse(QStringLiteral("a step of %1 for an entry of %2 bytes").arg(step).arg(size),
                    at + 8);
         at += step;
     }
     if (at != HeaderSize)
-        Refuse(QStringLiteral("entries without a last one"), at);
+        refuse(QStringLiteral("entries without a last one"), at);
     return bag;
 }
 
 namespace {
 
-template <typename T> void Append(QByteArray& out, T value)
+template <typename T> void append(QByteArray& out, T value)
 {
     const T little = qToLittleEndian(value);
     out.append(reinterpret_cast<const char*>(&little), sizeof(T));
 }
 
-void AppendUtf16(QByteArray& out, const QString& text)
+void appendUtf16(QByteArray& out, const QString& text)
 {
     for (const QChar c : text)
-        Append<char16_t>(out, c.unicode());
+        append<char16_t>(out, c.unicode());
 }
 
-void AppendValue(QByteArray& out, const PropertyEntry& entry)
+void appendValue(QByteArray& out, const PropertyEntry& entry)
 {
     const double number = entry.value.toNumber();
     switch (entry.type) {
     case PropertyType::Empty:
         return;
     case PropertyType::Integer:
-        return Append<int16_t>(out, moveslist::To16(number));
+        return append<int16_t>(out, moveslist::to16(number));
     case PropertyType::Long:
-        return Append<int32_t>(out, moveslist::To32(number));
+        return append<int32_t>(out, moveslist::to32(number));
     case PropertyType::Single:
-        return Append<float>(out, static_cast<float>(number));
+        return append<float>(out, static_cast<float>(number));
     case PropertyType::Double:
-        return Append<double>(out, number);
+        return append<double>(out, number);
     case PropertyType::Text: {
         const QString text = entry.value.toText();
-        Append<uint32_t>(out, static_cast<uint32_t>(text.size()));
-        AppendUtf16(out, text);
-        return Append<uint16_t>(out, 0);
+        append<uint32_t>(out, static_cast<uint32_t>(text.size()));
+        appendUtf16(out, text);
+        return append<uint16_t>(out, 0);
     }
     case PropertyType::Object:
-        Append<uint32_t>(out, static_cast<uint32_t>(entry.objectData.size()));
+        append<uint32_t>(out, static_cast<uint32_t>(entry.objectData.size()));
         out.append(entry.objectData);
         return;
     }
 }
 
 // An entry without its step, which is filled in once all sizes are known.
-QByteArray EntryBytes(const PropertyEntry& entry)
+QByteArray entryBytes(const PropertyEntry& entry)
 {
     // Lowering can lengthen a key; one that no longer fits its 16-bit length is refused
     // rather than written with a length that lies.
@@ -239,17 +239,17 @@ QByteArray EntryBytes(const PropertyEntry& entry)
         throw ListError(ListErrorCode::Overflow,
                         QStringLiteral("Overflow: a property key longer than 32767 characters"));
     QByteArray out;
-    Append<int16_t>(out, static_cast<int16_t>(entry.type));
-    Append<int16_t>(out, static_cast<int16_t>(key.size()));
-    Append<uint32_t>(out, entry.hash);
-    Append<int32_t>(out, 0);
-    AppendUtf16(out, key);
-    AppendValue(out, entry);
-    out.append(Padded(out.size()) - out.size(), '\0');
+    append<int16_t>(out, static_cast<int16_t>(entry.type));
+    append<int16_t>(out, static_cast<int16_t>(key.size()));
+    append<uint32_t>(out, entry.hash);
+    append<int32_t>(out, 0);
+    appendUtf16(out, key);
+    appendValue(out, entry);
+    out.append(padded(out.size()) - out.size(), '\0');
     return out;
 }
 
-void SetStep(QByteArray& entry, int32_t step)
+void setStep(QByteArray& entry, int32_t step)
 {
     const int32_t little = qToLittleEndian(step);
     std::memcpy(entry.data() + 8, &little, sizeof little);
@@ -257,27 +257,27 @@ void SetStep(QByteArray& entry, int32_t step)
 
 } // namespace
 
-QByteArray Write(const PropertyBag& bag)
+QByteArray write(const PropertyBag& bag)
 {
     QByteArray entries;
     qint64 lastStart = 0;
     for (const PropertyEntry& entry : bag.entries()) {
-        QByteArray bytes = EntryBytes(entry);
+        QByteArray bytes = entryBytes(entry);
         lastStart = entries.size();
-        SetStep(bytes, static_cast<int32_t>(bytes.size()));
+        setStep(bytes, static_cast<int32_t>(bytes.size()));
         entries.append(bytes);
     }
     if (!entries.isEmpty()) {
         QByteArray last = entries.mid(lastStart);
-        SetStep(last, static_cast<int32_t>(-lastStart));
+        setStep(last, static_cast<int32_t>(-lastStart));
         entries.replace(lastStart, last.size(), last);
     }
     QByteArray block("-LB");
-    Append<int16_t>(block, BlockKind);
+    append<int16_t>(block, BlockKind);
     const auto count = static_cast<uint32_t>(entries.size() + 8);
-    Append<uint32_t>(block, count);
-    Append<uint32_t>(block, Marker);
-    Append<uint32_t>(block, count);
+    append<uint32_t>(block, count);
+    append<uint32_t>(block, Marker);
+    append<uint32_t>(block, count);
     block.append(entries);
     return block;
 }

@@ -29,7 +29,7 @@ constexpr int HeaderSize = 17;
 
 // A block that is cut short or malformed is refused with ListError 321, saying
 // what is wrong and where; nothing past the block's end is ever read.
-PropertyBag Read(const QByteArray& block);
-QByteArray Write(const PropertyBag& bag);
+PropertyBag read(const QByteArray& block);
+QByteArray write(const PropertyBag& bag);
 
 } // namespace lbblock

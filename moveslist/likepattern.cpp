@@ -7,7 +7,7 @@
 
 namespace {
 
-[[noreturn]] void InvalidPattern(const QString& pattern, const QString& why)
+[[noreturn]] void invalidPattern(const QString& pattern, const QString& why)
 {
     throw ListError(ListErrorCode::InvalidPattern,
                     QStringLiteral("Invalid pattern string \"%1\": %2").arg(pattern, why));
@@ -21,34 +21,34 @@ LikePattern::LikePattern(const QString& pattern)
         const char16_t unit = pattern[i].unicode();
         switch (unit) {
         case u'?':
-            tokens.emplace_back(Kind::Any);
+            m_tokens.emplace_back(Kind::Any);
             break;
         case u'*':
             // A run of stars is one star.
-            if (tokens.empty() || tokens.back().kind != Kind::Star)
-                tokens.emplace_back(Kind::Star);
+            if (m_tokens.empty() || m_tokens.back().kind != Kind::Star)
+                m_tokens.emplace_back(Kind::Star);
             break;
         case u'#':
-            tokens.emplace_back(Kind::Digit);
+            m_tokens.emplace_back(Kind::Digit);
             break;
         case u'[':
             i = readList(pattern, i);
             break;
         default:
-            tokens.emplace_back(Kind::Char, unit);
+            m_tokens.emplace_back(Kind::Char, unit);
         }
     }
-    firstStar = tokens.size();
-    lastStar = tokens.size();
-    for (size_t t = 0; t < tokens.size(); ++t) {
-        if (tokens[t].kind == Kind::Star) {
-            firstStar = std::min(firstStar, t);
-            lastStar = t;
+    m_firstStar = m_tokens.size();
+    m_lastStar = m_tokens.size();
+    for (size_t t = 0; t < m_tokens.size(); ++t) {
+        if (m_tokens[t].kind == Kind::Star) {
+            m_firstStar = std::min(m_firstStar, t);
+            m_lastStar = t;
         }
-        const bool known = std::find(requiredUnits.begin(), requiredUnits.end(), tokens[t].unit) !=
-                           requiredUnits.end();
-        if (tokens[t].kind == Kind::Char && !known && requiredUnits.size() < MaxRequiredUnits)
-            requiredUnits.push_back(tokens[t].unit);
+        const bool known = std::find(m_requiredUnits.begin(), m_requiredUnits.end(),
+                                     m_tokens[t].unit) != m_requiredUnits.end();
+        if (m_tokens[t].kind == Kind::Char && !known && m_requiredUnits.size() < MaxRequiredUnits)
+            m_requiredUnits.push_back(m_tokens[t].unit);
     }
 }
 
@@ -61,7 +61,7 @@ qsizetype LikePattern::readList(const QString& pattern, qsizetype open)
         ++first;
     const qsizetype close = pattern.indexOf(u']', first);
     if (close < 0)
-        InvalidPattern(pattern, QStringLiteral("a [ is never closed"));
+        invalidPattern(pattern, QStringLiteral("a [ is never closed"));
     // [] takes no character; [!] is a list of nothing left out, so any character.
     if (close == first && !negated)
         return close;
@@ -73,7 +73,7 @@ qsizetype LikePattern::readList(const QString& pattern, qsizetype open)
         if (!hyphenFirst && i + 2 < close && pattern[i + 1] == u'-') {
             const char16_t high = pattern[i + 2].unicode();
             if (high < low)
-                InvalidPattern(pattern, QStringLiteral("the range %1-%2 runs backwards")
+                invalidPattern(pattern, QStringLiteral("the range %1-%2 runs backwards")
                                             .arg(QChar(low))
                                             .arg(QChar(high)));
             list.ranges.push_back({low, high});
@@ -82,7 +82,7 @@ qsizetype LikePattern::readList(const QString& pattern, qsizetype open)
             list.ranges.push_back({low, low});
         }
     }
-    tokens.push_back(std::move(list));
+    m_tokens.push_back(std::move(list));
     return close;
 }
 
@@ -111,31 +111,31 @@ bool LikePattern::accepts(const Token& token, char16_t unit)
 bool LikePattern::matches(QStringView subject, bool upperCase) const
 {
     const auto unit = [&](qsizetype s) {
-        return upperCase ? UpperUnit(subject[s].unicode()) : subject[s].unicode();
+        return upperCase ? upperUnit(subject[s].unicode()) : subject[s].unicode();
     };
     const auto n = static_cast<size_t>(subject.size());
-    if (firstStar == tokens.size()) {
-        if (n != tokens.size())
+    if (m_firstStar == m_tokens.size()) {
+        if (n != m_tokens.size())
             return false;
         for (size_t t = 0; t < n; ++t)
-            if (!accepts(tokens[t], unit(qsizetype(t))))
+            if (!accepts(m_tokens[t], unit(qsizetype(t))))
                 return false;
         return true;
     }
-    const size_t tailLength = tokens.size() - lastStar - 1;
-    if (n < firstStar + tailLength)
+    const size_t tailLength = m_tokens.size() - m_lastStar - 1;
+    if (n < m_firstStar + tailLength)
         return false;
-    for (size_t t = 0; t < firstStar; ++t)
-        if (!accepts(tokens[t], unit(qsizetype(t))))
+    for (size_t t = 0; t < m_firstStar; ++t)
+        if (!accepts(m_tokens[t], unit(qsizetype(t))))
             return false;
     for (size_t k = 0; k < tailLength; ++k)
-        if (!accepts(tokens[lastStar + 1 + k], unit(qsizetype(n - tailLength + k))))
+        if (!accepts(m_tokens[m_lastStar + 1 + k], unit(qsizetype(n - tailLength + k))))
             return false;
-    for (const char16_t required : requiredUnits)
+    for (const char16_t required : m_requiredUnits)
         if (!mayHold(subject, required, upperCase))
             return false;
     return matchesBetweenStars(
-        subject.mid(qsizetype(firstStar), qsizetype(n - tailLength - firstStar)), upperCase);
+        subject.mid(qsizetype(m_firstStar), qsizetype(n - tailLength - m_firstStar)), upperCase);
 }
 
 // Every token but the star takes exactly one character, so a failure after a star
@@ -143,17 +143,17 @@ bool LikePattern::matches(QStringView subject, bool upperCase) const
 // could not find a match the last one misses.
 bool LikePattern::matchesBetweenStars(QStringView middle, bool upperCase) const
 {
-    const size_t end = lastStar + 1;
-    size_t t = firstStar;
+    const size_t end = m_lastStar + 1;
+    size_t t = m_firstStar;
     qsizetype s = 0;
     size_t star = end;
     qsizetype starAt = 0;
     while (s < middle.size()) {
-        const char16_t unit = upperCase ? UpperUnit(middle[s].unicode()) : middle[s].unicode();
-        if (t < end && tokens[t].kind == Kind::Star) {
+        const char16_t unit = upperCase ? upperUnit(middle[s].unicode()) : middle[s].unicode();
+        if (t < end && m_tokens[t].kind == Kind::Star) {
             star = t++;
             starAt = s;
-        } else if (t < end && accepts(tokens[t], unit)) {
+        } else if (t < end && accepts(m_tokens[t], unit)) {
             ++t;
             ++s;
         } else if (star < end) {
@@ -163,7 +163,7 @@ bool LikePattern::matchesBetweenStars(QStringView middle, bool upperCase) const
             return false;
         }
     }
-    while (t < end && tokens[t].kind == Kind::Star)
+    while (t < end && m_tokens[t].kind == Kind::Star)
         ++t;
     return t == end;
 }
@@ -172,12 +172,12 @@ namespace {
 
 // The ASCII units that some other unit turns into when upper-cased: I from the dotless
 // i, S from the long s. A subject can hold those without showing them.
-const std::array<bool, 0x80>& ReachedFromAbove()
+const std::array<bool, 0x80>& reachedFromAbove()
 {
     static const std::array<bool, 0x80> reached = [] {
         std::array<bool, 0x80> table{};
         for (char32_t unit = 0x80; unit <= 0xFFFF; ++unit) {
-            const char16_t upper = LikePattern::UpperUnit(char16_t(unit));
+            const char16_t upper = LikePattern::upperUnit(char16_t(unit));
             if (upper < 0x80)
                 table[upper] = true;
         }
@@ -195,22 +195,22 @@ bool LikePattern::mayHold(QStringView subject, char16_t unit, bool upperCase)
 {
     if (!upperCase)
         return subject.contains(QChar(unit));
-    if (unit >= 0x80 || ReachedFromAbove()[unit])
+    if (unit >= 0x80 || reachedFromAbove()[unit])
         return true;
     const bool letter = unit >= u'A' && unit <= u'Z';
     return subject.contains(QChar(unit)) ||
            (letter && subject.contains(QChar(char16_t(unit + (u'a' - u'A')))));
 }
 
-QString LikePattern::UpperCase(const QString& text)
+QString LikePattern::upperCase(const QString& text)
 {
     QString upper = text;
     for (QChar& unit : upper)
-        unit = QChar(UpperUnit(unit.unicode()));
+        unit = QChar(upperUnit(unit.unicode()));
     return upper;
 }
 
-char16_t LikePattern::UpperUnit(char16_t unit)
+char16_t LikePattern::upperUnit(char16_t unit)
 {
     if (unit < 0x80)
         return unit >= u'a' && unit <= u'z' ? char16_t(unit - (u'a' - u'A')) : unit;

@@ -25,8 +25,8 @@ public:
     bool matches(QStringView subject, bool upperCase = false) const;
 
     // Upper case one code unit at a time, so that subject and pattern keep their length.
-    static QString UpperCase(const QString& text);
-    static char16_t UpperUnit(char16_t unit);
+    static QString upperCase(const QString& text);
+    static char16_t upperUnit(char16_t unit);
 
 private:
     enum class Kind { Char, Any, Digit, Star, List };
@@ -47,11 +47,11 @@ private:
     bool matchesBetweenStars(QStringView middle, bool upperCase) const;
     static bool mayHold(QStringView subject, char16_t unit, bool upperCase);
 
-    std::vector<Token> tokens;
+    std::vector<Token> m_tokens;
     // Places of the first and the last star; the number of tokens when there is none.
-    size_t firstStar = 0;
-    size_t lastStar = 0;
+    size_t m_firstStar = 0;
+    size_t m_lastStar = 0;
     // A few plain characters the subject must hold somewhere, looked for first.
     static constexpr size_t MaxRequiredUnits = 4;
-    std::vector<char16_t> requiredUnits;
+    std::vector<char16_t> m_requiredUnits;
 };

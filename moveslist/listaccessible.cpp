@@ -7,7 +7,7 @@ ListAccessible::ListAccessible(UserControl1* list) : QAccessibleWidget(list, QAc
 
 ListAccessible::~ListAccessible()
 {
-    for (const auto& [item, id] : rows)
+    for (const auto& [item, id] : m_rows)
         QAccessible::deleteAccessibleInterface(id);
 }
 
@@ -26,12 +26,12 @@ QAccessibleInterface* ListAccessible::child(int index) const
     if (index < 0 || index >= childCount())
         return nullptr;
     const int32_t item = index + 1;
-    const auto found = rows.find(item);
-    if (found != rows.end())
+    const auto found = m_rows.find(item);
+    if (found != m_rows.end())
         return QAccessible::accessibleInterface(found->second);
     const QAccessible::Id id =
         QAccessible::registerAccessibleInterface(new ListRowAccessible(list(), item));
-    rows.emplace(item, id);
+    m_rows.emplace(item, id);
     return QAccessible::accessibleInterface(id);
 }
 
@@ -51,7 +51,7 @@ QAccessibleInterface* ListAccessible::childAt(int x, int y) const
     return item > 0 ? child(item - 1) : nullptr;
 }
 
-QAccessibleInterface* ListAccessible::Create(const QString& className, QObject* object)
+QAccessibleInterface* ListAccessible::create(const QString& className, QObject* object)
 {
     if (className != QLatin1String("UserControl1"))
         return nullptr;

@@ -23,11 +23,11 @@ public:
     QAccessibleInterface* childAt(int x, int y) const override;
 
     // For QAccessible::installFactory.
-    static QAccessibleInterface* Create(const QString& className, QObject* object);
+    static QAccessibleInterface* create(const QString& className, QObject* object);
 
 private:
     UserControl1* list() const;
 
     // Item interfaces, made when first asked for and kept while the list lives.
-    mutable std::unordered_map<int32_t, QAccessible::Id> rows;
+    mutable std::unordered_map<int32_t, QAccessible::Id> m_rows;
 };

@@ -1,5 +1,5 @@
 #include "moveslist/listerror.h"
 
 ListError::ListError(int code, const QString& what)
-    : std::runtime_error(what.toStdString()), errorCode(code)
+    : std::runtime_error(what.toStdString()), m_code(code)
 {}

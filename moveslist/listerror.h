@@ -24,10 +24,10 @@ class ListError : public std::runtime_error {
 public:
     ListError(int code, const QString& what);
 
-    int code() const { return errorCode; }
+    int code() const { return m_code; }
 
 private:
-    int errorCode;
+    int m_code;
 };
 
 namespace ListErrorCode {

@@ -30,12 +30,12 @@ template <typename Int> Int toWhole(double v)
 
 } // namespace
 
-int16_t To16(double v)
+int16_t to16(double v)
 {
     return toWhole<int16_t>(v);
 }
 
-int32_t To32(double v)
+int32_t to32(double v)
 {
     return toWhole<int32_t>(v);
 }

@@ -14,7 +14,7 @@ QString numberText(double n);
 double numericRead(const QString& text);
 
 // A number brought to a 16- or 32-bit whole number by R; too big is ListError 6.
-int16_t To16(double v);
-int32_t To32(double v);
+int16_t to16(double v);
+int32_t to32(double v);
 
 } // namespace moveslist

@@ -5,43 +5,44 @@
 #include <QWidget>
 #include <QWindow>
 
-ListRowAccessible::ListRowAccessible(UserControl1* list, int32_t item) : list(list), row(item) {}
+ListRowAccessible::ListRowAccessible(UserControl1* list, int32_t item) : m_list(list), m_row(item)
+{}
 
 bool ListRowAccessible::isValid() const
 {
-    return list != nullptr && row <= list->state().ItemCount;
+    return m_list != nullptr && m_row <= m_list->state().ItemCount;
 }
 
 QWindow* ListRowAccessible::window() const
 {
-    return list != nullptr ? list->window()->windowHandle() : nullptr;
+    return m_list != nullptr ? m_list->window()->windowHandle() : nullptr;
 }
 
 QAccessibleInterface* ListRowAccessible::parent() const
 {
-    return list != nullptr ? QAccessible::queryAccessibleInterface(list.data()) : nullptr;
+    return m_list != nullptr ? QAccessible::queryAccessibleInterface(m_list.data()) : nullptr;
 }
 
 QString ListRowAccessible::text(QAccessible::Text t) const
 {
     if (t != QAccessible::Name || !isValid())
         return {};
-    return list->rowAccessibleName(row);
+    return m_list->rowAccessibleName(m_row);
 }
 
 QRect ListRowAccessible::rect() const
 {
     if (!isValid())
         return {};
-    const QRect local = list->itemRect(row);
-    return local.isEmpty() ? QRect() : QRect(list->mapToGlobal(local.topLeft()), local.size());
+    const QRect local = m_list->itemRect(m_row);
+    return local.isEmpty() ? QRect() : QRect(m_list->mapToGlobal(local.topLeft()), local.size());
 }
 
 QAccessible::State ListRowAccessible::state() const
 {
     QAccessible::State state;
     state.selectable = true;
-    if (!isValid() || list->itemRect(row).isEmpty()) {
+    if (!isValid() || m_list->itemRect(m_row).isEmpty()) {
         state.invisible = true;
         state.offscreen = true;
     }

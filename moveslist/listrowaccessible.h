@@ -14,7 +14,7 @@ public:
     // item counts from 1, as the list's store does.
     ListRowAccessible(UserControl1* list, int32_t item);
 
-    int32_t item() const { return row; }
+    int32_t item() const { return m_row; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -32,6 +32,6 @@ public:
     QAccessible::State state() const override;
 
 private:
-    QPointer<UserControl1> list;
-    int32_t row;
+    QPointer<UserControl1> m_list;
+    int32_t m_row;
 };

@@ -3,7 +3,7 @@
 #include "moveslist/lbblock.h"
 #include "moveslist/usercontrol1.h"
 
-QByteArray MovesListBlock()
+QByteArray movesListBlock()
 {
     // The hashes are the ones the form was saved with.
     PropertyBag bag;
@@ -15,7 +15,7 @@ QByteArray MovesListBlock()
              {},
              0xB35657BBu});
     bag.add({QStringLiteral("fontsize"), PropertyType::Single, 8.25, {}, 0x9354B93Bu});
-    return lbblock::Write(bag);
+    return lbblock::write(bag);
 }
 
 void setUpMovesLog(UserControl1& list)

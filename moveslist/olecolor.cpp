@@ -7,7 +7,7 @@ namespace olecolor {
 
 namespace {
 
-QColor SystemColour(uint32_t index)
+QColor systemColour(uint32_t index)
 {
     const QPalette palette = QGuiApplication::palette();
     switch (index) {
@@ -36,11 +36,11 @@ QColor SystemColour(uint32_t index)
 
 } // namespace
 
-QColor ToQColor(int32_t colour)
+QColor toQColor(int32_t colour)
 {
     const auto bits = static_cast<uint32_t>(colour);
     if (bits & 0x80000000u)
-        return SystemColour(bits & 0xFFu);
+        return systemColour(bits & 0xFFu);
     return QColor(int(bits & 0xFF), int((bits >> 8) & 0xFF), int((bits >> 16) & 0xFF));
 }
 

@@ -14,6 +14,6 @@ constexpr int32_t ButtonFace = static_cast<int32_t>(0x8000000Fu);
 constexpr int32_t ButtonText = static_cast<int32_t>(0x80000012u);
 
 // System colours come from the application's palette, so they follow the desktop.
-QColor ToQColor(int32_t colour);
+QColor toQColor(int32_t colour);
 
 } // namespace olecolor

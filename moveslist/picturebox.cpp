@@ -15,14 +15,14 @@
 namespace {
 
 // A rectangle of widget pixels as the pixels of an image at the given ratio.
-QRectF DeviceRect(const QRect& logical, qreal ratio)
+QRectF deviceRect(const QRect& logical, qreal ratio)
 {
     return QRectF(logical.x() * ratio, logical.y() * ratio, logical.width() * ratio,
                   logical.height() * ratio);
 }
 
 // A pixel under a draw mode; only the colour bits take part.
-QRgb UnderMode(int16_t drawMode, QRgb pen, QRgb destination)
+QRgb underMode(int16_t drawMode, QRgb pen, QRgb destination)
 {
     switch (drawMode) {
     case PictureBox::MergeNotPen:
@@ -37,8 +37,8 @@ QRgb UnderMode(int16_t drawMode, QRgb pen, QRgb destination)
 } // namespace
 
 PictureBox::PictureBox(QWidget* parent)
-    : QWidget(parent), drawFont(font()), backColour(olecolor::WindowBackground),
-      foreColour(olecolor::WindowText)
+    : QWidget(parent), m_drawFont(font()), m_backColour(olecolor::WindowBackground),
+      m_foreColour(olecolor::WindowText)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -46,17 +46,17 @@ PictureBox::PictureBox(QWidget* parent)
 
 void PictureBox::BackColor(int32_t New_BackColor)
 {
-    backColour = New_BackColor;
-    canvas = QImage();
+    m_backColour = New_BackColor;
+    m_canvas = QImage();
     Cls();
 }
 
-double PictureBox::TwipsPerPixelX() const
+double PictureBox::twipsPerPixelX() const
 {
     return TwipsPerInch / screen()->logicalDotsPerInchX();
 }
 
-double PictureBox::TwipsPerPixelY() const
+double PictureBox::twipsPerPixelY() const
 {
     return TwipsPerInch / screen()->logicalDotsPerInchY();
 }
@@ -64,8 +64,8 @@ double PictureBox::TwipsPerPixelY() const
 void PictureBox::Cls()
 {
     syncImage();
-    canvas.fill(olecolor::ToQColor(backColour));
-    currentY = 0;
+    m_canvas.fill(olecolor::toQColor(m_backColour));
+    m_currentY = 0;
     drawn(logicalRect());
 }
 
@@ -73,26 +73,26 @@ void PictureBox::Print(const QString& text)
 {
     syncImage();
     const LaidOutText& laidOut = layOut(text);
-    QPainter painter(&canvas);
-    painter.setFont(drawFont);
-    painter.setPen(olecolor::ToQColor(foreColour));
-    const int top = PixelY(currentY);
+    QPainter painter(&m_canvas);
+    painter.setFont(m_drawFont);
+    painter.setPen(olecolor::toQColor(m_foreColour));
+    const int top = pixelY(m_currentY);
     painter.drawStaticText(QPoint(0, top), laidOut.text);
-    currentY += TextHeight(text);
+    m_currentY += TextHeight(text);
     drawn(QRect(0, top, width(), drawMetrics().height()));
 }
 
 double PictureBox::TextWidth(const QString& text) const
 {
     syncImage();
-    return layOut(text).width * TwipsPerPixelX();
+    return layOut(text).width * twipsPerPixelX();
 }
 
 double PictureBox::TextHeight(const QString& text) const
 {
     syncImage();
     const auto lines = static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
-    return lines * drawMetrics().height() * TwipsPerPixelY();
+    return lines * drawMetrics().height() * twipsPerPixelY();
 }
 
 // The modes are applied pixel by pixel: a painter would hand a raster-op line to its
@@ -101,9 +101,9 @@ double PictureBox::TextHeight(const QString& text) const
 void PictureBox::Line(QPointF from, QPointF to, int32_t colour)
 {
     syncImage();
-    const QRgb pen = olecolor::ToQColor(colour).rgb();
-    QPoint at(PixelX(from.x()), PixelY(from.y()));
-    const QPoint end(PixelX(to.x()), PixelY(to.y()));
+    const QRgb pen = olecolor::toQColor(colour).rgb();
+    QPoint at(pixelX(from.x()), pixelY(from.y()));
+    const QPoint end(pixelX(to.x()), pixelY(to.y()));
     const int dx = std::abs(end.x() - at.x());
     const int dy = -std::abs(end.y() - at.y());
     const int stepX = at.x() < end.x() ? 1 : -1;
@@ -132,11 +132,11 @@ void PictureBox::Line(QPointF from, QPointF to, int32_t colour)
     drawn(area);
 }
 
-void PictureBox::FilledBox(QPointF from, QPointF to, int32_t colour)
+void PictureBox::filledBox(QPointF from, QPointF to, int32_t colour)
 {
     syncImage();
-    const QRgb pen = olecolor::ToQColor(colour).rgb();
-    const QRect area = PixelRect(from, to).intersected(logicalRect());
+    const QRgb pen = olecolor::toQColor(colour).rgb();
+    const QRect area = pixelRect(from, to).intersected(logicalRect());
     for (int y = area.top(); y <= area.bottom(); ++y)
         horizontalLine(y, area.left(), area.right(), pen);
     drawn(area);
@@ -153,14 +153,14 @@ void PictureBox::horizontalLine(int y, int left, int right, QRgb pen)
     right = std::min(right, logical.width() - 1);
     if (left > right)
         return;
-    const qreal ratio = canvas.devicePixelRatio();
+    const qreal ratio = m_canvas.devicePixelRatio();
     const auto device = [ratio](int at) { return static_cast<int>(std::lround(at * ratio)); };
-    const int lastRow = std::min(device(y + 1), canvas.height()) - 1;
-    const int lastColumn = std::min(device(right + 1), canvas.width()) - 1;
+    const int lastRow = std::min(device(y + 1), m_canvas.height()) - 1;
+    const int lastColumn = std::min(device(right + 1), m_canvas.width()) - 1;
     for (int row = device(y); row <= lastRow; ++row) {
-        auto* line = reinterpret_cast<QRgb*>(canvas.scanLine(row));
+        auto* line = reinterpret_cast<QRgb*>(m_canvas.scanLine(row));
         for (int x = device(left); x <= lastColumn; ++x)
-            line[x] = UnderMode(drawMode, pen, line[x]);
+            line[x] = underMode(m_drawMode, pen, line[x]);
     }
 }
 
@@ -171,7 +171,7 @@ void PictureBox::plot(QPoint at, QRgb pen)
 
 QRect PictureBox::logicalRect() const
 {
-    return QRect(QPoint(0, 0), canvas.deviceIndependentSize().toSize());
+    return QRect(QPoint(0, 0), m_canvas.deviceIndependentSize().toSize());
 }
 
 void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPointF sourceAt,
@@ -179,16 +179,16 @@ void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPo
 {
     syncImage();
     const QRect from =
-        PixelRect(sourceAt, sourceAt + QPointF(sourceSize.width(), sourceSize.height()));
+        pixelRect(sourceAt, sourceAt + QPointF(sourceSize.width(), sourceSize.height()));
     const QRect sourceRect(QPoint(0, 0), source.deviceIndependentSize().toSize());
     if (source.isNull() || !sourceRect.contains(from))
         throw ListError(ListErrorCode::InvalidPicture,
                         QStringLiteral("Invalid picture: the picture has no such part"));
-    const QRect to = PixelRect(at, at + QPointF(size.width(), size.height()));
-    QPainter painter(&canvas);
+    const QRect to = pixelRect(at, at + QPointF(size.width(), size.height()));
+    QPainter painter(&m_canvas);
     painter.setCompositionMode(rasterCode == SourceAnd ? QPainter::RasterOp_SourceAndDestination
                                                        : QPainter::CompositionMode_Source);
-    painter.drawImage(QRectF(to), source, DeviceRect(from, source.devicePixelRatio()));
+    painter.drawImage(QRectF(to), source, deviceRect(from, source.devicePixelRatio()));
     drawn(to);
 }
 
@@ -202,84 +202,84 @@ void PictureBox::BitBlt(int x, int y, int width, int height, const PictureBox& s
     const QRect block = QRect(sourceX, sourceY, width, height).intersected(source.logicalRect());
     if (block.isEmpty())
         return;
-    QPainter painter(&canvas);
+    QPainter painter(&m_canvas);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const QPoint target(x + block.x() - sourceX, y + block.y() - sourceY);
     painter.drawImage(QRectF(QRect(target, block.size())), from,
-                      DeviceRect(block, from.devicePixelRatio()));
+                      deviceRect(block, from.devicePixelRatio()));
     drawn(QRect(target, block.size()));
 }
 
 void PictureBox::Picture(const QImage& New_Picture)
 {
-    picture = New_Picture;
-    if (!picture.isNull())
-        resize(picture.size());
+    m_picture = New_Picture;
+    if (!m_picture.isNull())
+        resize(m_picture.size());
 }
 
-void PictureBox::FontName(const QString& New_FontName)
+void PictureBox::fontName(const QString& New_FontName)
 {
-    if (New_FontName == drawFont.family())
+    if (New_FontName == m_drawFont.family())
         return;
-    drawFont.setFamily(New_FontName);
-    metrics.reset();
+    m_drawFont.setFamily(New_FontName);
+    m_metrics.reset();
 }
 
 // A log repaints the same lines over and over, each with its text shaped for print
 // and for measure: the shaping is kept, by font name and text.
 const PictureBox::LaidOutText& PictureBox::layOut(const QString& text) const
 {
-    const auto key = std::make_pair(drawFont.family(), text);
-    const auto found = laidOutTexts.constFind(key);
-    if (found != laidOutTexts.constEnd())
+    const auto key = std::make_pair(m_drawFont.family(), text);
+    const auto found = m_laidOutTexts.constFind(key);
+    if (found != m_laidOutTexts.constEnd())
         return *found;
-    if (laidOutTexts.size() >= MaxLaidOutTexts)
-        laidOutTexts.clear();
+    if (m_laidOutTexts.size() >= MaxLaidOutTexts)
+        m_laidOutTexts.clear();
     QStaticText staticText(text);
     staticText.setTextFormat(Qt::PlainText);
     staticText.setPerformanceHint(QStaticText::AggressiveCaching);
-    const qreal ratio = canvas.devicePixelRatio();
-    staticText.prepare(QTransform::fromScale(ratio, ratio), drawFont);
-    return *laidOutTexts.insert(key, {staticText, drawMetrics().horizontalAdvance(text)});
+    const qreal ratio = m_canvas.devicePixelRatio();
+    staticText.prepare(QTransform::fromScale(ratio, ratio), m_drawFont);
+    return *m_laidOutTexts.insert(key, {staticText, drawMetrics().horizontalAdvance(text)});
 }
 
 void PictureBox::FontSize(float New_FontSize)
 {
-    drawFont.setPointSizeF(New_FontSize);
-    metrics.reset();
-    laidOutTexts.clear();
+    m_drawFont.setPointSizeF(New_FontSize);
+    m_metrics.reset();
+    m_laidOutTexts.clear();
 }
 
 // Rows set the same font name over and over: the measures are kept until it changes.
 const QFontMetrics& PictureBox::drawMetrics() const
 {
     syncImage();
-    if (!metrics)
-        metrics.emplace(drawFont, &canvas);
-    return *metrics;
+    if (!m_metrics)
+        m_metrics.emplace(m_drawFont, &m_canvas);
+    return *m_metrics;
 }
 
 const QImage& PictureBox::image() const
 {
     syncImage();
-    return canvas;
+    return m_canvas;
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)
 {
     syncImage();
     QPainter painter(this);
-    painter.drawImage(QRectF(event->rect()), canvas,
-                      DeviceRect(event->rect(), canvas.devicePixelRatio()));
+    painter.drawImage(QRectF(event->rect()), m_canvas,
+                      deviceRect(event->rect(), m_canvas.devicePixelRatio()));
 }
 
 // The surfaces have the control's font: a font its host gives it reaches them too.
 void PictureBox::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange) {
-        drawFont = font();
-        metrics.reset();
-        laidOutTexts.clear();
+        m_drawFont = font();
+        m_metrics.reset();
+        m_laidOutTexts.clear();
     }
     QWidget::changeEvent(event);
 }
@@ -298,40 +298,40 @@ void PictureBox::syncImage() const
     const QSize logical = size().expandedTo(QSize(1, 1));
     const QSize wanted(static_cast<int>(std::lround(logical.width() * ratio)),
                        static_cast<int>(std::lround(logical.height() * ratio)));
-    if (canvas.size() == wanted && canvas.devicePixelRatio() == ratio)
+    if (m_canvas.size() == wanted && m_canvas.devicePixelRatio() == ratio)
         return;
     QImage grown(wanted, QImage::Format_RGB32);
     grown.setDevicePixelRatio(ratio);
     grown.setDotsPerMeterX(std::lround(screen()->logicalDotsPerInchX() / 0.0254));
     grown.setDotsPerMeterY(std::lround(screen()->logicalDotsPerInchY() / 0.0254));
-    grown.fill(olecolor::ToQColor(backColour));
-    if (!canvas.isNull()) {
+    grown.fill(olecolor::toQColor(m_backColour));
+    if (!m_canvas.isNull()) {
         QPainter painter(&grown);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.drawImage(QPointF(0, 0), canvas);
+        painter.drawImage(QPointF(0, 0), m_canvas);
     }
-    if (canvas.devicePixelRatio() != ratio)
-        laidOutTexts.clear();
-    canvas = grown;
+    if (m_canvas.devicePixelRatio() != ratio)
+        m_laidOutTexts.clear();
+    m_canvas = grown;
 }
 
-int PictureBox::PixelX(double twips) const
+int PictureBox::pixelX(double twips) const
 {
-    return twipsToPixels(twips, TwipsPerPixelX());
+    return twipsToPixels(twips, twipsPerPixelX());
 }
 
-int PictureBox::PixelY(double twips) const
+int PictureBox::pixelY(double twips) const
 {
-    return twipsToPixels(twips, TwipsPerPixelY());
+    return twipsToPixels(twips, twipsPerPixelY());
 }
 
 // The box from one corner up to, not including, the other.
-QRect PictureBox::PixelRect(QPointF from, QPointF to) const
+QRect PictureBox::pixelRect(QPointF from, QPointF to) const
 {
-    const int left = PixelX(std::min(from.x(), to.x()));
-    const int right = PixelX(std::max(from.x(), to.x()));
-    const int top = PixelY(std::min(from.y(), to.y()));
-    const int bottom = PixelY(std::max(from.y(), to.y()));
+    const int left = pixelX(std::min(from.x(), to.x()));
+    const int right = pixelX(std::max(from.x(), to.x()));
+    const int top = pixelY(std::min(from.y(), to.y()));
+    const int bottom = pixelY(std::max(from.y(), to.y()));
     return QRect(left, top, right - left, bottom - top);
 }
 

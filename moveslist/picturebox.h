@@ -31,22 +31,22 @@ public:
 
     explicit PictureBox(QWidget* parent = nullptr);
 
-    int32_t BackColor() const { return backColour; }
+    int32_t BackColor() const { return m_backColour; }
     // Erases what was drawn, as a new back colour does on the desktop.
     void BackColor(int32_t New_BackColor);
-    int32_t ForeColor() const { return foreColour; }
-    void ForeColor(int32_t New_ForeColor) { foreColour = New_ForeColor; }
+    int32_t foreColor() const { return m_foreColour; }
+    void foreColor(int32_t New_ForeColor) { m_foreColour = New_ForeColor; }
     // The font that Print and the measures use; it starts as the widget's own.
-    QString FontName() const { return drawFont.family(); }
-    void FontName(const QString& New_FontName);
-    float FontSize() const { return static_cast<float>(drawFont.pointSizeF()); }
+    QString fontName() const { return m_drawFont.family(); }
+    void fontName(const QString& New_FontName);
+    float FontSize() const { return static_cast<float>(m_drawFont.pointSizeF()); }
     void FontSize(float New_FontSize);
-    int16_t DrawMode() const { return drawMode; }
-    void DrawMode(int16_t New_DrawMode) { drawMode = New_DrawMode; }
+    int16_t DrawMode() const { return m_drawMode; }
+    void DrawMode(int16_t New_DrawMode) { m_drawMode = New_DrawMode; }
 
     // The screen's twips per pixel, read at each use.
-    double TwipsPerPixelX() const;
-    double TwipsPerPixelY() const;
+    double twipsPerPixelX() const;
+    double twipsPerPixelY() const;
 
     void Cls();
     void Print(const QString& text);
@@ -55,7 +55,7 @@ public:
     // A line from one point to the other, end point left out, under DrawMode.
     void Line(QPointF from, QPointF to, int32_t colour);
     // A filled box from one corner to the other, under DrawMode.
-    void FilledBox(QPointF from, QPointF to, int32_t colour);
+    void filledBox(QPointF from, QPointF to, int32_t colour);
     // Paints a part of a picture under a raster code. A null picture or a source
     // part outside it fails with ListError 481.
     void PaintPicture(const QImage& picture, QPointF at, QSizeF size, QPointF sourceAt,
@@ -65,7 +65,7 @@ public:
                 int sourceY);
 
     // Picture2's role: holds a picture and takes its size.
-    const QImage& Picture() const { return picture; }
+    const QImage& Picture() const { return m_picture; }
     void Picture(const QImage& New_Picture);
 
     // What is drawn, as kept between paints.
@@ -90,18 +90,18 @@ private:
     };
     const LaidOutText& layOut(const QString& text) const;
     static constexpr qsizetype MaxLaidOutTexts = 512;
-    int PixelX(double twips) const;
-    int PixelY(double twips) const;
-    QRect PixelRect(QPointF from, QPointF to) const;
+    int pixelX(double twips) const;
+    int pixelY(double twips) const;
+    QRect pixelRect(QPointF from, QPointF to) const;
     void drawn(const QRect& area);
 
-    mutable QImage canvas;
-    QFont drawFont;
-    mutable std::optional<QFontMetrics> metrics;
-    mutable QHash<std::pair<QString, QString>, LaidOutText> laidOutTexts;
-    QImage picture;
-    int32_t backColour;
-    int32_t foreColour;
-    int16_t drawMode = CopyPen;
-    double currentY = 0;
+    mutable QImage m_canvas;
+    QFont m_drawFont;
+    mutable std::optional<QFontMetrics> m_metrics;
+    mutable QHash<std::pair<QString, QString>, LaidOutText> m_laidOutTexts;
+    QImage m_picture;
+    int32_t m_backColour;
+    int32_t m_foreColour;
+    int16_t m_drawMode = CopyPen;
+    double m_currentY = 0;
 };

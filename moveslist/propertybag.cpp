@@ -4,7 +4,7 @@
 
 namespace {
 
-bool SameKey(const QString& a, const QString& b)
+bool sameKey(const QString& a, const QString& b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
@@ -13,17 +13,17 @@ bool SameKey(const QString& a, const QString& b)
 
 void PropertyBag::add(PropertyEntry entry)
 {
-    stored.push_back(std::move(entry));
+    m_stored.push_back(std::move(entry));
 }
 
 const PropertyEntry* PropertyBag::find(const QString& key) const
 {
-    const auto found = std::find_if(stored.begin(), stored.end(),
-                                    [&](const PropertyEntry& e) { return SameKey(e.key, key); });
-    return found == stored.end() ? nullptr : &*found;
+    const auto found = std::find_if(m_stored.begin(), m_stored.end(),
+                                    [&](const PropertyEntry& e) { return sameKey(e.key, key); });
+    return found == m_stored.end() ? nullptr : &*found;
 }
 
-AnyValue PropertyBag::ReadProperty(const QString& key, const AnyValue& defaultValue) const
+AnyValue PropertyBag::readProperty(const QString& key, const AnyValue& defaultValue) const
 {
     const PropertyEntry* entry = find(key);
     if (!entry || entry->type == PropertyType::Object)
@@ -31,33 +31,33 @@ AnyValue PropertyBag::ReadProperty(const QString& key, const AnyValue& defaultVa
     return entry->value;
 }
 
-QByteArray PropertyBag::ReadObject(const QString& key) const
+QByteArray PropertyBag::readObject(const QString& key) const
 {
     const PropertyEntry* entry = find(key);
     return entry && entry->type == PropertyType::Object ? entry->objectData : QByteArray();
 }
 
-void PropertyBag::WriteProperty(const QString& key, PropertyType type, const AnyValue& value,
+void PropertyBag::writeProperty(const QString& key, PropertyType type, const AnyValue& value,
                                 const AnyValue& defaultValue)
 {
     if (value == defaultValue) {
         remove(key);
         return;
     }
-    put({key.toLower(), type, value, {}, KeyHash(key)});
+    put({key.toLower(), type, value, {}, keyHash(key)});
 }
 
-void PropertyBag::WriteObject(const QString& key, const QByteArray& data)
+void PropertyBag::writeObject(const QString& key, const QByteArray& data)
 {
     if (data.isEmpty()) {
         remove(key);
         return;
     }
-    put({key.toLower(), PropertyType::Object, {}, data, KeyHash(key)});
+    put({key.toLower(), PropertyType::Object, {}, data, keyHash(key)});
 }
 
 // FNV-1a over the lower-case key's UTF-16 units.
-uint32_t PropertyBag::KeyHash(const QString& key)
+uint32_t PropertyBag::keyHash(const QString& key)
 {
     uint32_t hash = 0x811C9DC5u;
     for (const QChar c : key.toLower()) {
@@ -72,16 +72,16 @@ uint32_t PropertyBag::KeyHash(const QString& key)
 
 void PropertyBag::put(PropertyEntry entry)
 {
-    const auto found = std::find_if(stored.begin(), stored.end(), [&](const PropertyEntry& e) {
-        return SameKey(e.key, entry.key);
+    const auto found = std::find_if(m_stored.begin(), m_stored.end(), [&](const PropertyEntry& e) {
+        return sameKey(e.key, entry.key);
     });
-    if (found == stored.end())
-        stored.push_back(std::move(entry));
+    if (found == m_stored.end())
+        m_stored.push_back(std::move(entry));
     else
         *found = std::move(entry);
 }
 
 void PropertyBag::remove(const QString& key)
 {
-    std::erase_if(stored, [&](const PropertyEntry& e) { return SameKey(e.key, key); });
+    std::erase_if(m_stored, [&](const PropertyEntry& e) { return sameKey(e.key, key); });
 }

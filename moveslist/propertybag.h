@@ -32,25 +32,25 @@ struct PropertyEntry {
 // to case; a key that is missing reads as the default the reader gives.
 class PropertyBag {
 public:
-    const std::vector<PropertyEntry>& entries() const { return stored; }
+    const std::vector<PropertyEntry>& entries() const { return m_stored; }
     // Adds an entry as it stands, keeping its hash: what the block reader does.
     void add(PropertyEntry entry);
 
     const PropertyEntry* find(const QString& key) const;
-    AnyValue ReadProperty(const QString& key, const AnyValue& defaultValue) const;
-    QByteArray ReadObject(const QString& key) const;
+    AnyValue readProperty(const QString& key, const AnyValue& defaultValue) const;
+    QByteArray readObject(const QString& key) const;
 
     // A value equal to its default is left out, and takes out what was there.
-    void WriteProperty(const QString& key, PropertyType type, const AnyValue& value,
+    void writeProperty(const QString& key, PropertyType type, const AnyValue& value,
                        const AnyValue& defaultValue);
-    void WriteObject(const QString& key, const QByteArray& data);
+    void writeObject(const QString& key, const QByteArray& data);
 
     // The hash this program gives a key it writes; blocks from elsewhere keep theirs.
-    static uint32_t KeyHash(const QString& key);
+    static uint32_t keyHash(const QString& key);
 
 private:
     void put(PropertyEntry entry);
     void remove(const QString& key);
 
-    std::vector<PropertyEntry> stored;
+    std::vector<PropertyEntry> m_stored;
 };

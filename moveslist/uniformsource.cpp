@@ -4,7 +4,7 @@
 
 namespace moveslist {
 
-float Rnd()
+float rnd()
 {
     static std::mt19937 source;
     // 24 random bits make every value a float can hold below 1, and never 1 itself.

@@ -28,7 +28,7 @@ constexpr double Picture3Height = 315;
 // from the left and 3 down, on a transparent ground. A stem of four rows stands on a
 // head that narrows from 11 pixels to 1. Drawn at the screen's own density, so its
 // edges stay crisp on a high-density screen.
-QPixmap DropArrow(qreal ratio)
+QPixmap dropArrow(qreal ratio)
 {
     QImage arrow(QSize(16, 16) * ratio, QImage::Format_ARGB32);
     arrow.setDevicePixelRatio(ratio);
@@ -44,8 +44,8 @@ QPixmap DropArrow(qreal ratio)
 } // namespace
 
 UserControl1::UserControl1(QWidget* parent)
-    : QWidget(parent), surfaceBackColor(olecolor::ButtonFace),
-      surfaceForeColor(olecolor::ButtonText)
+    : QWidget(parent), m_surfaceBackColor(olecolor::ButtonFace),
+      m_surfaceForeColor(olecolor::ButtonText)
 {
     QFont surfaceFont(QString::fromLatin1(DefaultFontName));
     surfaceFont.setPointSizeF(DefaultFontSize);
@@ -53,28 +53,28 @@ UserControl1::UserControl1(QWidget* parent)
     setAutoFillBackground(true);
     createChildren();
     wireEvents();
-    applySurfaceBackColor(surfaceBackColor);
+    applySurfaceBackColor(m_surfaceBackColor);
     // A new control has a fixed single border.
     applySurfaceBorder(1);
     UserControl_Initialize();
     // Screen readers reach the items through the list's own interface.
-    static const bool readable = (QAccessible::installFactory(&ListAccessible::Create), true);
+    static const bool readable = (QAccessible::installFactory(&ListAccessible::create), true);
     Q_UNUSED(readable);
 }
 
-UserControl1* UserControl1::FromBlock(const QByteArray& block, QWidget* parent)
+UserControl1* UserControl1::fromBlock(const QByteArray& block, QWidget* parent)
 {
-    const PropertyBag bag = lbblock::Read(block);
+    const PropertyBag bag = lbblock::read(block);
     auto list = std::make_unique<UserControl1>(parent);
     list->UserControl_ReadProperties(bag);
     // The extent is kept in hundredths of a millimetre.
-    const double width = bag.ReadProperty(QStringLiteral("_ExtentX"), {}).toNumber();
-    const double height = bag.ReadProperty(QStringLiteral("_ExtentY"), {}).toNumber();
+    const double width = bag.readProperty(QStringLiteral("_ExtentX"), {}).toNumber();
+    const double height = bag.readProperty(QStringLiteral("_ExtentY"), {}).toNumber();
     if (width > 0 && height > 0) {
         const double twipsPerExtent = 1440.0 / 2540.0;
-        list->resize(int(R(width * twipsPerExtent / list->ScreenTwipsX())),
-                     int(R(height * twipsPerExtent / list->ScreenTwipsY())));
-        if (list->size() != list->laidOutSize)
+        list->resize(int(R(width * twipsPerExtent / list->screenTwipsX())),
+                     int(R(height * twipsPerExtent / list->screenTwipsY())));
+        if (list->size() != list->m_laidOutSize)
             list->UserControl_Resize();
     }
     return list.release();
@@ -82,8 +82,8 @@ UserControl1* UserControl1::FromBlock(const QByteArray& block, QWidget* parent)
 
 void UserControl1::UserControl_Initialize()
 {
-    st.ItemCount = 0;
-    st.SelectedRow = -1;
+    m_state.ItemCount = 0;
+    m_state.SelectedRow = -1;
 }
 
 void UserControl1::createChildren()
@@ -114,7 +114,7 @@ void UserControl1::createChildren()
 
     // A picture that serves as a button: raised like one, with no pressed look.
     command1 = new QLabel(this);
-    command1->setPixmap(DropArrow(devicePixelRatioF()));
+    command1->setPixmap(dropArrow(devicePixelRatioF()));
     command1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     command1->setFrameStyle(QFrame::Panel | QFrame::Raised);
     command1->setLineWidth(1);
@@ -138,14 +138,14 @@ void UserControl1::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     // A height written by the list itself has already been laid out inside the write.
-    if (size() != laidOutSize)
+    if (size() != m_laidOutSize)
         UserControl_Resize();
 }
 
 void UserControl1::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    if (surfaceBorderStyle != 1)
+    if (m_surfaceBorderStyle != 1)
         return;
     QPainter painter(this);
     qDrawShadePanel(&painter, rect(), palette(), true, borderPixels());
@@ -155,7 +155,7 @@ void UserControl1::paintEvent(QPaintEvent* event)
 void UserControl1::applySurfaceBorder(int16_t style)
 {
     const int before = borderPixels();
-    surfaceBorderStyle = style;
+    m_surfaceBorderStyle = style;
     const int border = borderPixels();
     setContentsMargins(border, border, border, border);
     if (border != before)
@@ -168,13 +168,13 @@ void UserControl1::applySurfaceBorder(int16_t style)
 
 void UserControl1::applySurfaceBackColor(int32_t colour)
 {
-    surfaceBackColor = colour;
+    m_surfaceBackColor = colour;
     QPalette surface = palette();
-    surface.setColor(QPalette::Window, olecolor::ToQColor(colour));
+    surface.setColor(QPalette::Window, olecolor::toQColor(colour));
     setPalette(surface);
 }
 
 int UserControl1::borderPixels() const
 {
-    return surfaceBorderStyle == 1 ? 2 : 0;
+    return m_surfaceBorderStyle == 1 ? 2 : 0;
 }

@@ -45,7 +45,7 @@ public:
     ~UserControl1() override;
     // A control loaded from its stored "-LB" block: properties read, then sized to
     // the block's extent. Its rows show once Mode is assigned.
-    static UserControl1* FromBlock(const QByteArray& block, QWidget* parent = nullptr);
+    static UserControl1* fromBlock(const QByteArray& block, QWidget* parent = nullptr);
 
     bool Enabled() const;
     void Enabled(bool New_Enabled);
@@ -131,15 +131,15 @@ public:
     void UserControl_WriteProperties(PropertyBag& PropBag) const;
 
     // Run time unless told otherwise; design time changes what some setters refuse.
-    bool designTime() const { return inDesign; }
-    void setDesignTime(bool design) { inDesign = design; }
+    bool designTime() const { return m_inDesign; }
+    void setDesignTime(bool design) { m_inDesign = design; }
 
-    const ListState& state() const { return st; }
+    const ListState& state() const { return m_state; }
 
     // What a screen reader says of an item (from 1): its text, and whatever the host's
     // voice makes of the item's colour.
     using RowVoice = std::function<QString(const QString& text, int32_t colour)>;
-    void setRowVoice(RowVoice voice) { rowVoice = std::move(voice); }
+    void setRowVoice(RowVoice voice) { m_rowVoice = std::move(voice); }
     QString rowAccessibleName(int32_t item) const;
     // Where an item stands, in this control's pixels; empty while it is out of view.
     QRect itemRect(int32_t item) const;
@@ -159,7 +159,7 @@ signals:
     void MouseDown(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
     // A stored property changed; the host's block is out of date.
-    void PropertyChanged(const QString& PropertyName);
+    void propertyChanged(const QString& PropertyName);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -178,7 +178,7 @@ private:
     void UserControl_Initialize();
     void createChildren();
     void wireEvents();
-    bool Picture1Event(QEvent* event);
+    bool picture1Event(QEvent* event);
     bool command1Event(QEvent* event);
     MouseArguments mouseArguments(const QMouseEvent& event, bool move) const;
 
@@ -188,8 +188,8 @@ private:
     void command1_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void UserControl_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void Picture1_LostFocus();
-    double RowUnder(float Y) const;
-    void HoverTip(float Y);
+    double rowUnder(float Y) const;
+    void hoverTip(float Y);
     void raiseMouseMove(int16_t Button, int16_t Shift, float X, float Y);
     void raiseMouseUp(int16_t Button, int16_t Shift, float X, float Y);
 
@@ -198,22 +198,22 @@ private:
     void Picture1_KeyPress(int16_t& KeyAscii);
     void Picture1_KeyUp(int16_t& KeyCode, int16_t& Shift);
     void Text1_KeyDown(int16_t& KeyCode, int16_t& Shift);
-    void CommitTopItem(int16_t KeyCode, int16_t Shift);
-    void DropHighlight();
-    void KeyTail(int step, int16_t KeyCode, int16_t Shift);
+    void commitTopItem(int16_t KeyCode, int16_t Shift);
+    void dropHighlight();
+    void keyTail(int step, int16_t KeyCode, int16_t Shift);
     void raiseKeyDown(int16_t KeyCode, int16_t Shift);
     void raiseKeyUp(int16_t KeyCode, int16_t Shift);
 
     // In-place updates.
-    void UpdateColumn(const AnyValue& it, int column, const std::function<QString()>& newColumn);
+    void updateColumn(const AnyValue& it, int column, const std::function<QString()>& newColumn);
 
     // Store.
-    void AdditemInsert(QString& s, int16_t itemx, int16_t ipic, int32_t ItemColor, bool topInsert);
-    void AdditemAppend(QString& s, int16_t ipic, int32_t ItemColor);
-    QString NewRecord(const QString& s, int16_t ipic, int32_t ItemColor,
+    void additemInsert(QString& s, int16_t itemx, int16_t ipic, int32_t ItemColor, bool topInsert);
+    void additemAppend(QString& s, int16_t ipic, int32_t ItemColor);
+    QString newRecord(const QString& s, int16_t ipic, int32_t ItemColor,
                       const QString& width) const;
     void setScrollMaximum(int32_t maximum);
-    int32_t EntryOf(const AnyValue& it) const;
+    int32_t entryOf(const AnyValue& it) const;
     QString LastAddedIndex() const;
     void LastAddedIndex(const QString& index);
     QString ChosenIndex() const;
@@ -226,35 +226,35 @@ private:
     // Painting.
     void DrawRows(int16_t first, int16_t last);
     void DrawOneRow(int16_t row);
-    void DrawItem(int32_t item, int32_t counter);
+    void drawItem(int32_t item, int32_t counter);
     void DrawRow(int32_t rowInView, const QString& text, const QString& font, const QString& colour,
                  int16_t y, int32_t& width);
     void DrawRowText(int x, int y, const QString& text, const QString& colour, const QString& font,
                      int32_t& width);
-    void DrawRowPicture(int16_t y);
-    void DrawGridLine(int32_t rowInView);
+    void drawRowPicture(int16_t y);
+    void drawGridLine(int32_t rowInView);
     void InvertRowStrip(int16_t row);
-    void LoadRowPicture(double index);
+    void loadRowPicture(double index);
 
     // Layout and scrolling.
     void UserControl_Resize();
     void VScroll1_Change();
     void FirstItemSetup();
     void FitRows();
-    void ModeCommonSteps();
-    void ModeListBranch();
-    void ModeDropDownBranch();
+    void modeCommonSteps();
+    void modeListBranch();
+    void modeDropDownBranch();
 
     // Drop-down.
     void CloseDropDown();
     void OpenDropDown();
     void command1_MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
     void setScrollValue(int value);
-    double ScreenTwipsX() const;
-    double ScreenTwipsY() const;
-    float ButtonWidth() const;
-    float SideGap() const;
-    double ControlWidthTwips() const;
+    double screenTwipsX() const;
+    double screenTwipsY() const;
+    float buttonWidth() const;
+    float sideGap() const;
+    double controlWidthTwips() const;
     void setControlHeight(double twips);
     void setChildLeft(QWidget* child, double twips);
     void setChildTop(QWidget* child, double twips);
@@ -267,12 +267,12 @@ private:
     void applySurfaceBorder(int16_t style);
     void applySurfaceBackColor(int32_t colour);
 
-    ListState st;
-    bool inDesign = false;
-    int16_t surfaceBorderStyle = 0;
-    int32_t surfaceBackColor;
-    int32_t surfaceForeColor;
-    QSize laidOutSize;
+    ListState m_state;
+    bool m_inDesign = false;
+    int16_t m_surfaceBorderStyle = 0;
+    int32_t m_surfaceBackColor;
+    int32_t m_surfaceForeColor;
+    QSize m_laidOutSize;
 
     PictureBox* Picture1 = nullptr;
     PictureBox* Picture2 = nullptr;
@@ -280,5 +280,5 @@ private:
     QLineEdit* Text1 = nullptr;
     QScrollBar* VScroll1 = nullptr;
     QLabel* command1 = nullptr;
-    RowVoice rowVoice;
+    RowVoice m_rowVoice;
 };

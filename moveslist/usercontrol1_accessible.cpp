@@ -11,26 +11,29 @@ namespace col = itemrecord;
 
 QString UserControl1::rowAccessibleName(int32_t item) const
 {
-    if (item < 1 || item > st.ItemCount)
+    if (item < 1 || item > m_state.ItemCount)
         return {};
-    const QStringList columns = col::Split(st.Items[static_cast<size_t>(item)]);
+    const QStringList columns = col::Split(m_state.Items[static_cast<size_t>(item)]);
     const QString text = columns.value(col::Text);
-    if (!rowVoice)
+    if (!m_rowVoice)
         return text;
     const auto colour = static_cast<int32_t>(moveslist::numericRead(columns.value(col::Colour)));
-    return rowVoice(text, colour);
+    return m_rowVoice(text, colour);
 }
 
 QRect UserControl1::itemRect(int32_t item) const
 {
-    if (st.RowTwips <= 0 || st.PixelTwipsY <= 0 || st.TopRow < 1 || Picture1->isHidden())
+    if (m_state.RowTwips <= 0 || m_state.PixelTwipsY <= 0 || m_state.TopRow < 1 ||
+        Picture1->isHidden())
         return {};
-    if (item < st.TopRow || item >= st.TopRow + st.RowsInView || item > st.ItemCount)
+    if (item < m_state.TopRow || item >= m_state.TopRow + m_state.RowsInView ||
+        item > m_state.ItemCount)
         return {};
     // Each row's top is rounded on its own, as the rows are drawn, so that a fraction
     // of a pixel per row does not add up down the list.
     const auto top = [&](int32_t row) {
-        return static_cast<int>(R(double(row - st.TopRow) * st.RowTwips / st.PixelTwipsY));
+        return static_cast<int>(
+            R(double(row - m_state.TopRow) * m_state.RowTwips / m_state.PixelTwipsY));
     };
     const QPoint at = Picture1->mapToGlobal(QPoint(0, top(item)));
     return QRect(mapFromGlobal(at), QSize(Picture1->width(), top(item + 1) - top(item)));
@@ -47,8 +50,9 @@ UserControl1::~UserControl1()
 
 int32_t UserControl1::itemAt(QPoint at) const
 {
-    const int32_t last = std::min<int32_t>(st.TopRow + st.RowsInView - 1, st.ItemCount);
-    for (int32_t item = std::max<int32_t>(st.TopRow, 1); item <= last; ++item)
+    const int32_t last =
+        std::min<int32_t>(m_state.TopRow + m_state.RowsInView - 1, m_state.ItemCount);
+    for (int32_t item = std::max<int32_t>(m_state.TopRow, 1); item <= last; ++item)
         if (itemRect(item).contains(at))
             return item;
     return 0;

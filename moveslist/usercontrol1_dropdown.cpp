@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
-using moveslist::To16;
+using moveslist::to16;
 
 namespace {
 
@@ -20,14 +20,14 @@ constexpr int BorderAllowance = 48;
 
 // The head at the top, the list part placed under it; which of them shows, and the
 // control's height, are left as they were.
-void UserControl1::ModeDropDownBranch()
+void UserControl1::modeDropDownBranch()
 {
-    const float gap = surfaceBorderStyle == 0 ? 0 : SideGap();
+    const float gap = m_surfaceBorderStyle == 0 ? 0 : sideGap();
     setChildTop(command1, 0);
     setChildTop(Text1, 0);
     setChildTop(Picture1, childHeight(Text1));
     setChildWidth(command1, childWidth(VScroll1));
-    setChildWidth(Text1, st.ControlWidth - childWidth(command1) - gap);
+    setChildWidth(Text1, m_state.ControlWidth - childWidth(command1) - gap);
     setChildWidth(Picture1, childWidth(Text1));
     setChildWidth(Picture3, childWidth(Text1));
     setChildLeft(command1, childWidth(Text1) - ButtonOverlap);
@@ -50,10 +50,10 @@ void UserControl1::CloseDropDown()
 // those widgets so that the list part is seen.
 void UserControl1::OpenDropDown()
 {
-    const float height = float(st.ViewHeight) + float(childHeight(Text1)) +
-                         float(surfaceBorderStyle * BorderAllowance);
+    const float height = float(m_state.ViewHeight) + float(childHeight(Text1)) +
+                         float(m_surfaceBorderStyle * BorderAllowance);
     setControlHeight(height);
-    setChildHeight(Picture1, st.ViewHeight);
+    setChildHeight(Picture1, m_state.ViewHeight);
     setChildHeight(VScroll1, childHeight(Picture1));
     Picture1->show();
     VScroll1->show();
@@ -64,11 +64,11 @@ void UserControl1::OpenDropDown()
 // earlier scroll the rows and the bar differ until the next scroll.
 void UserControl1::command1_MouseUp(int16_t&, int16_t&, float&, float&)
 {
-    if (st.ItemCount == 0)
+    if (m_state.ItemCount == 0)
         return;
-    if (st.SelectedRow != -1)
-        InvertRowStrip(To16(st.SelectedRow));
-    st.SelectedRow = -1;
+    if (m_state.SelectedRow != -1)
+        InvertRowStrip(to16(m_state.SelectedRow));
+    m_state.SelectedRow = -1;
     if (!Picture1->isHidden()) {
         CloseDropDown();
         return;
@@ -77,10 +77,10 @@ void UserControl1::command1_MouseUp(int16_t&, int16_t&, float&, float&)
     Picture1->raise();
     VScroll1->raise();
     Picture1->setFocus();
-    if (st.ComboMode != 0 || st.TopRow == -1) {
+    if (m_state.ComboMode != 0 || m_state.TopRow == -1) {
         setChildTop(Picture1, childHeight(Text1));
         VScroll1->show();
-        DrawRows(1, st.RowsInView);
+        DrawRows(1, m_state.RowsInView);
         Picture1->raise();
         Picture1->setFocus();
     }

@@ -12,7 +12,7 @@
 namespace {
 
 // A handler that fails ends there: the failure goes no further than the event.
-template <typename Handler> void Guarded(Handler&& handler)
+template <typename Handler> void guarded(Handler&& handler)
 {
     try {
         handler();
@@ -20,7 +20,7 @@ template <typename Handler> void Guarded(Handler&& handler)
     }
 }
 
-bool IsTab(const QKeyEvent& event)
+bool isTab(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
 }
@@ -49,57 +49,57 @@ void UserControl1::wireEvents()
 bool UserControl1::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == Picture1)
-        return Picture1Event(event);
+        return picture1Event(event);
     if (watched == command1)
         return command1Event(event);
     if (watched == Text1 && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        int16_t KeyCode = KeyNumber(*key);
-        int16_t Shift = ShiftNumber(key->modifiers());
-        Guarded([&] { Text1_KeyDown(KeyCode, Shift); });
+        int16_t KeyCode = keyNumber(*key);
+        int16_t Shift = shiftNumber(key->modifiers());
+        guarded([&] { Text1_KeyDown(KeyCode, Shift); });
     }
     return QWidget::eventFilter(watched, event);
 }
 
-bool UserControl1::Picture1Event(QEvent* event)
+bool UserControl1::picture1Event(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonRelease: {
         MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), false);
-        Guarded([&] { Picture1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
+        guarded([&] { Picture1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
         return true;
     }
     case QEvent::MouseMove: {
         MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), true);
-        Guarded([&] { Picture1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+        guarded([&] { Picture1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
         return true;
     }
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
         // Tab moves the focus on, as it does everywhere else.
-        if (IsTab(*key))
+        if (isTab(*key))
             return false;
-        int16_t KeyCode = KeyNumber(*key);
-        int16_t Shift = ShiftNumber(key->modifiers());
-        Guarded([&] { Picture1_KeyDown(KeyCode, Shift); });
-        if (std::optional<int16_t> ascii = KeyAscii(*key))
-            Guarded([&] { Picture1_KeyPress(*ascii); });
+        int16_t KeyCode = keyNumber(*key);
+        int16_t Shift = shiftNumber(key->modifiers());
+        guarded([&] { Picture1_KeyDown(KeyCode, Shift); });
+        if (std::optional<int16_t> ascii = keyAscii(*key))
+            guarded([&] { Picture1_KeyPress(*ascii); });
         return true;
     }
     case QEvent::KeyRelease: {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (IsTab(*key))
+        if (isTab(*key))
             return false;
         // A held key goes down again and again, and comes up once.
         if (key->isAutoRepeat())
             return true;
-        int16_t KeyCode = KeyNumber(*key);
-        int16_t Shift = ShiftNumber(key->modifiers());
-        Guarded([&] { Picture1_KeyUp(KeyCode, Shift); });
+        int16_t KeyCode = keyNumber(*key);
+        int16_t Shift = shiftNumber(key->modifiers());
+        guarded([&] { Picture1_KeyUp(KeyCode, Shift); });
         return true;
     }
     case QEvent::FocusOut:
-        Guarded([&] { Picture1_LostFocus(); });
+        guarded([&] { Picture1_LostFocus(); });
         return false;
     default:
         return false;
@@ -111,12 +111,12 @@ bool UserControl1::command1Event(QEvent* event)
     switch (event->type()) {
     case QEvent::MouseButtonRelease: {
         MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), false);
-        Guarded([&] { command1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
+        guarded([&] { command1_MouseUp(a.Button, a.Shift, a.X, a.Y); });
         return true;
     }
     case QEvent::MouseMove: {
         MouseArguments a = mouseArguments(*static_cast<QMouseEvent*>(event), true);
-        Guarded([&] { command1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+        guarded([&] { command1_MouseMove(a.Button, a.Shift, a.X, a.Y); });
         return true;
     }
     case QEvent::MouseButtonPress:
@@ -131,16 +131,16 @@ void UserControl1::mouseMoveEvent(QMouseEvent* event)
 {
     MouseArguments a = mouseArguments(*event, true);
     // The surface's own coordinates start inside its border.
-    a.X = float((event->position().x() - borderPixels()) * ScreenTwipsX());
-    a.Y = float((event->position().y() - borderPixels()) * ScreenTwipsY());
-    Guarded([&] { UserControl_MouseMove(a.Button, a.Shift, a.X, a.Y); });
+    a.X = float((event->position().x() - borderPixels()) * screenTwipsX());
+    a.Y = float((event->position().y() - borderPixels()) * screenTwipsY());
+    guarded([&] { UserControl_MouseMove(a.Button, a.Shift, a.X, a.Y); });
 }
 
 // X and Y in twips, in the coordinates of the widget that got the event. A move gives
 // every button held, a release the one let go.
 UserControl1::MouseArguments UserControl1::mouseArguments(const QMouseEvent& event, bool move) const
 {
-    return {ButtonNumber(move ? event.buttons() : Qt::MouseButtons(event.button())),
-            ShiftNumber(event.modifiers()), float(event.position().x() * ScreenTwipsX()),
-            float(event.position().y() * ScreenTwipsY())};
+    return {buttonNumber(move ? event.buttons() : Qt::MouseButtons(event.button())),
+            shiftNumber(event.modifiers()), float(event.position().x() * screenTwipsX()),
+            float(event.position().y() * screenTwipsY())};
 }

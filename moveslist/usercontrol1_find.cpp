@@ -7,14 +7,14 @@
 
 #include <QLineEdit>
 
-using moveslist::To16;
+using moveslist::to16;
 
 namespace col = itemrecord;
 
 namespace {
 
 // Column 0 of a record, read in place: a search looks at nothing else.
-QStringView TextColumn(const QString& record)
+QStringView textColumn(const QString& record)
 {
     const qsizetype tab = record.indexOf(QLatin1Char('\t'));
     return tab < 0 ? QStringView(record) : QStringView(record).left(tab);
@@ -26,25 +26,25 @@ QStringView TextColumn(const QString& record)
 // to the start item; neither wraps round. A pattern is only read once the search runs.
 AnyValue UserControl1::Find(int16_t sdir, int16_t it, const QString& ftext, int16_t casen)
 {
-    const int16_t start = To16(it + 1.0);
-    if (start > st.ItemCount || start < 1 || st.ItemCount == 0)
+    const int16_t start = to16(it + 1.0);
+    if (start > m_state.ItemCount || start < 1 || m_state.ItemCount == 0)
         return {};
     const bool caseCounts = casen == 1;
-    const LikePattern pattern(caseCounts ? ftext : LikePattern::UpperCase(ftext));
+    const LikePattern pattern(caseCounts ? ftext : LikePattern::upperCase(ftext));
     const int32_t step = sdir == 1 ? -1 : 1;
-    const int32_t from = sdir == 1 ? st.ItemCount : start;
-    const int32_t to = sdir == 1 ? start : st.ItemCount;
+    const int32_t from = sdir == 1 ? m_state.ItemCount : start;
+    const int32_t to = sdir == 1 ? start : m_state.ItemCount;
     for (int32_t n = from;; n += step) {
-        const QString& record = st.Items[static_cast<size_t>(n)];
-        if (pattern.matches(TextColumn(record), !caseCounts)) {
-            st.ItemColumns = col::Split(record);
+        const QString& record = m_state.Items[static_cast<size_t>(n)];
+        if (pattern.matches(textColumn(record), !caseCounts)) {
+            m_state.ItemColumns = col::Split(record);
             return n;
         }
         if (n == to)
             break;
     }
     // The scratch columns hold the record looked at last, as a split of each would.
-    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(to)]);
+    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(to)]);
     return 0;
 }
 
@@ -53,19 +53,19 @@ AnyValue UserControl1::Find(int16_t sdir, int16_t it, const QString& ftext, int1
 void UserControl1::ShowItem(const AnyValue& i)
 {
     const double n = i.toNumberStrict();
-    if (n < 1 || n > st.ItemCount)
+    if (n < 1 || n > m_state.ItemCount)
         return;
     const auto item = static_cast<int32_t>(R(n));
-    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
-    Text1->setText(col::Column(st.ItemColumns, col::Text));
+    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(item)]);
+    Text1->setText(col::column(m_state.ItemColumns, col::Text));
     ChosenIndex(moveslist::numberText(item - 1));
-    if (st.SelectedRow != -1)
-        InvertRowStrip(To16(st.SelectedRow));
-    if (st.ComboMode == 1 && Picture1->isHidden()) {
+    if (m_state.SelectedRow != -1)
+        InvertRowStrip(to16(m_state.SelectedRow));
+    if (m_state.ComboMode == 1 && Picture1->isHidden()) {
         OpenDropDown();
         Picture1->setFocus();
     }
     setScrollValue(item - 1);
     InvertRowStrip(0);
-    st.SelectedRow = 0;
+    m_state.SelectedRow = 0;
 }

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
-using moveslist::To16;
+using moveslist::to16;
 
 namespace col = itemrecord;
 
@@ -19,10 +19,10 @@ void UserControl1::Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift)
     int step = 0;
     switch (KeyCode) {
     case key::Return:
-        CommitTopItem(KeyCode, Shift);
+        commitTopItem(KeyCode, Shift);
         return;
     case key::Escape:
-        DropHighlight();
+        dropHighlight();
         return;
     case key::Up:
         step = -1;
@@ -31,7 +31,7 @@ void UserControl1::Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift)
         break;
     case key::Down:
         step = 1;
-        if (VScroll1->value() == st.ItemCount - 1)
+        if (VScroll1->value() == m_state.ItemCount - 1)
             return;
         break;
     case key::Home:
@@ -39,12 +39,12 @@ void UserControl1::Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift)
         break;
     case key::End:
         // The last item alone on the first row.
-        setScrollValue(st.ItemCount - 1);
+        setScrollValue(m_state.ItemCount - 1);
         break;
     default:
         break;
     }
-    KeyTail(step, KeyCode, Shift);
+    keyTail(step, KeyCode, Shift);
 }
 
 void UserControl1::Picture1_KeyPress(int16_t& KeyAscii)
@@ -66,41 +66,41 @@ void UserControl1::Text1_KeyDown(int16_t& KeyCode, int16_t& Shift)
 
 // The item on the first canvas row is committed, wherever the mark is and whether
 // there is one at all; the mark stays as it was.
-void UserControl1::CommitTopItem(int16_t KeyCode, int16_t Shift)
+void UserControl1::commitTopItem(int16_t KeyCode, int16_t Shift)
 {
-    if (st.TopRow < 1 || st.TopRow > st.ItemCount)
+    if (m_state.TopRow < 1 || m_state.TopRow > m_state.ItemCount)
         return;
-    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(st.TopRow)]);
-    Text1->setText(col::Column(st.ItemColumns, col::Text));
-    ChosenIndex(moveslist::numberText(st.TopRow - 1));
-    if (st.ComboMode == 1)
+    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(m_state.TopRow)]);
+    Text1->setText(col::column(m_state.ItemColumns, col::Text));
+    ChosenIndex(moveslist::numberText(m_state.TopRow - 1));
+    if (m_state.ComboMode == 1)
         CloseDropDown();
     raiseKeyDown(KeyCode, Shift);
 }
 
 // Takes back nothing a commit has done, and commits nothing.
-void UserControl1::DropHighlight()
+void UserControl1::dropHighlight()
 {
-    if (st.SelectedRow > -1)
-        InvertRowStrip(To16(st.SelectedRow));
-    st.SelectedRow = -1;
-    if (st.ComboMode == 1)
+    if (m_state.SelectedRow > -1)
+        InvertRowStrip(to16(m_state.SelectedRow));
+    m_state.SelectedRow = -1;
+    if (m_state.ComboMode == 1)
         CloseDropDown();
 }
 
 // The first press only shows the mark on the top row. After that a step scrolls one
 // item, whose repaint wipes the mark inside the write of the value; a step of 0 just
 // toggles the mark on row 0.
-void UserControl1::KeyTail(int step, int16_t KeyCode, int16_t Shift)
+void UserControl1::keyTail(int step, int16_t KeyCode, int16_t Shift)
 {
-    if (st.SelectedRow == -1) {
+    if (m_state.SelectedRow == -1) {
         InvertRowStrip(0);
-        st.SelectedRow = 0;
+        m_state.SelectedRow = 0;
         return;
     }
     const int v = VScroll1->value();
     setScrollValue(v + step);
-    st.SelectedRow = 0;
+    m_state.SelectedRow = 0;
     InvertRowStrip(0);
     raiseKeyDown(KeyCode, Shift);
 }

@@ -11,8 +11,8 @@
 
 #include <algorithm>
 
-using moveslist::To16;
-using moveslist::To32;
+using moveslist::to16;
+using moveslist::to32;
 
 namespace {
 
@@ -23,7 +23,7 @@ constexpr int ButtonOverlap = 20;
 
 // The layout and scroll handlers go on with their next step when one fails: the
 // platform calls them, and nobody would be there to hear of it.
-template <typename Step> void IgnoringFailure(Step&& step)
+template <typename Step> void ignoringFailure(Step&& step)
 {
     try {
         step();
@@ -37,56 +37,56 @@ template <typename Step> void IgnoringFailure(Step&& step)
 // except that a list with items is moved to value 1, which repaints from item 2.
 void UserControl1::UserControl_Resize()
 {
-    laidOutSize = size();
-    IgnoringFailure([&] { st.ControlWidth = To16(R(ControlWidthTwips())); });
-    st.TopRow = -1;
-    setChildWidth(command1, ButtonWidth());
-    float gap = SideGap();
-    if (surfaceBorderStyle == 0) {
+    m_laidOutSize = size();
+    ignoringFailure([&] { m_state.ControlWidth = to16(R(controlWidthTwips())); });
+    m_state.TopRow = -1;
+    setChildWidth(command1, buttonWidth());
+    float gap = sideGap();
+    if (m_surfaceBorderStyle == 0) {
         Text1->setFrame(false);
         gap = 0;
     }
-    setChildWidth(Picture1, st.ControlWidth - childWidth(VScroll1) - gap);
+    setChildWidth(Picture1, m_state.ControlWidth - childWidth(VScroll1) - gap);
     setChildWidth(Picture3, childWidth(Picture1));
     setChildWidth(VScroll1, childWidth(command1) - 4);
-    setChildWidth(Text1, st.ControlWidth - childWidth(command1) - gap);
+    setChildWidth(Text1, m_state.ControlWidth - childWidth(command1) - gap);
     setChildLeft(command1, childWidth(Text1) - ButtonOverlap);
     setChildLeft(VScroll1, childWidth(Text1));
-    if (st.ComboMode == 1 && st.ItemCount == 0)
-        IgnoringFailure([&] { setControlHeight(childHeight(Text1)); });
+    if (m_state.ComboMode == 1 && m_state.ItemCount == 0)
+        ignoringFailure([&] { setControlHeight(childHeight(Text1)); });
     setChildHeight(command1, childHeight(Text1));
-    if (st.ItemCount >= 1 && st.ComboMode == 0)
-        IgnoringFailure([&] { setScrollValue(1); });
+    if (m_state.ItemCount >= 1 && m_state.ComboMode == 0)
+        ignoringFailure([&] { setScrollValue(1); });
 }
 
 // Value v puts item v + 1 on top; one row more than fits is drawn, below the canvas.
 void UserControl1::VScroll1_Change()
 {
     int value = 0;
-    IgnoringFailure([&] { value = VScroll1->value(); });
-    IgnoringFailure([&] { DrawRows(To16(value + 1.0), To16(value + 1.0 + st.RowsInView)); });
+    ignoringFailure([&] { value = VScroll1->value(); });
+    ignoringFailure([&] { DrawRows(to16(value + 1.0), to16(value + 1.0 + m_state.RowsInView)); });
     // The mark went with the repaint.
-    st.SelectedRow = -1;
-    IgnoringFailure([&] { Picture1->setFocus(); });
+    m_state.SelectedRow = -1;
+    ignoringFailure([&] { Picture1->setFocus(); });
 }
 
 void UserControl1::FirstItemSetup()
 {
     const double lineTwips = R(R(Picture1->TextHeight(QStringLiteral("M"))) * 1.2);
-    st.TextTwips = To16(lineTwips);
+    m_state.TextTwips = to16(lineTwips);
     Picture3->BackColor(Picture1->BackColor());
     setChildWidth(Picture3, childWidth(Picture1));
     Picture3->FontSize(Picture1->FontSize());
-    st.PixelTwipsX = To16(R(ScreenTwipsX()));
-    st.PixelTwipsY = To16(R(ScreenTwipsY()));
+    m_state.PixelTwipsX = to16(R(screenTwipsX()));
+    m_state.PixelTwipsY = to16(R(screenTwipsY()));
     // A RowHeight of 24 or more, set before the first item, is honoured.
-    if (st.RowTwips < 24) {
-        st.RowTwips = To32(lineTwips);
+    if (m_state.RowTwips < 24) {
+        m_state.RowTwips = to32(lineTwips);
         FitRows();
-        setChildHeight(Picture1, st.ViewHeight);
-        setChildHeight(VScroll1, st.ViewHeight);
-        if (st.ComboMode == 0)
-            st.TopRow = 1;
+        setChildHeight(Picture1, m_state.ViewHeight);
+        setChildHeight(VScroll1, m_state.ViewHeight);
+        if (m_state.ComboMode == 0)
+            m_state.TopRow = 1;
     }
 }
 
@@ -94,91 +94,91 @@ void UserControl1::FirstItemSetup()
 // so a second run loses a row.
 void UserControl1::FitRows()
 {
-    if (st.RowTwips == 0)
+    if (m_state.RowTwips == 0)
         throw ListError(ListErrorCode::DivisionByZero,
                         QStringLiteral("Division by zero: RowHeight is 0"));
-    const int32_t rows = st.ViewHeight / st.RowTwips;
-    const auto twips = static_cast<float>(ScreenTwipsX());
-    float h = float(rows) * float(st.RowTwips) + twips * 24 / 12;
-    if (surfaceBorderStyle == 0)
+    const int32_t rows = m_state.ViewHeight / m_state.RowTwips;
+    const auto twips = static_cast<float>(screenTwipsX());
+    float h = float(rows) * float(m_state.RowTwips) + twips * 24 / 12;
+    if (m_surfaceBorderStyle == 0)
         h -= twips * BorderAllowance / 12;
-    st.RowsInView = To16(rows);
-    st.ViewHeight = To16(R(h));
+    m_state.RowsInView = to16(rows);
+    m_state.ViewHeight = to16(R(h));
 }
 
 int16_t UserControl1::Mode() const
 {
-    return st.ModeValue;
+    return m_state.ModeValue;
 }
 
 // Assigning Mode is what makes the list visible, even to the value it has.
 void UserControl1::Mode(int16_t New_Mode)
 {
-    st.ModeValue = New_Mode;
-    emit PropertyChanged(QStringLiteral("Mode"));
-    st.ComboMode = st.ModeValue;
-    ModeCommonSteps();
-    if (st.ComboMode == 0)
-        ModeListBranch();
-    else if (st.ComboMode == 1)
-        ModeDropDownBranch();
+    m_state.ModeValue = New_Mode;
+    emit propertyChanged(QStringLiteral("Mode"));
+    m_state.ComboMode = m_state.ModeValue;
+    modeCommonSteps();
+    if (m_state.ComboMode == 0)
+        modeListBranch();
+    else if (m_state.ComboMode == 1)
+        modeDropDownBranch();
 }
 
-void UserControl1::ModeCommonSteps()
+void UserControl1::modeCommonSteps()
 {
-    st.ControlWidth = To16(R(ControlWidthTwips()));
-    st.TopRow = -1;
-    setChildWidth(command1, ButtonWidth());
+    m_state.ControlWidth = to16(R(controlWidthTwips()));
+    m_state.TopRow = -1;
+    setChildWidth(command1, buttonWidth());
     setChildWidth(VScroll1, childWidth(command1));
 }
 
-void UserControl1::ModeListBranch()
+void UserControl1::modeListBranch()
 {
-    const float gap = surfaceBorderStyle == 0 ? 0 : SideGap();
+    const float gap = m_surfaceBorderStyle == 0 ? 0 : sideGap();
     command1->hide();
     Text1->hide();
     setChildTop(Picture1, 0);
     setChildTop(VScroll1, 0);
-    setChildWidth(Picture1, st.ControlWidth - childWidth(VScroll1) - gap);
+    setChildWidth(Picture1, m_state.ControlWidth - childWidth(VScroll1) - gap);
     setChildWidth(Picture3, childWidth(Picture1));
     Picture1->show();
     VScroll1->show();
-    setControlHeight(st.ViewHeight + surfaceBorderStyle * BorderAllowance);
-    setChildHeight(Picture1, st.ViewHeight);
-    setChildHeight(VScroll1, st.ViewHeight);
+    setControlHeight(m_state.ViewHeight + m_surfaceBorderStyle * BorderAllowance);
+    setChildHeight(Picture1, m_state.ViewHeight);
+    setChildHeight(VScroll1, m_state.ViewHeight);
     setChildLeft(VScroll1, childWidth(Picture1));
     setScrollMaximum(0);
 }
 
 AnyValue UserControl1::RowHeight() const
 {
-    return st.RowHeightValue;
+    return m_state.RowHeightValue;
 }
 
 // Only the row measures move: the canvas keeps its height and nothing is repainted.
 void UserControl1::RowHeight(const AnyValue& New_RowHeight)
 {
-    const int32_t rowTwips = To32(New_RowHeight.toNumberStrict());
+    const int32_t rowTwips = to32(New_RowHeight.toNumberStrict());
     if (rowTwips < 1)
         throw ListError(ListErrorCode::InvalidPropertyValue,
                         QStringLiteral("Invalid property value: RowHeight must be 1 or more"));
-    st.RowHeightValue = New_RowHeight;
-    st.RowTwips = rowTwips;
+    m_state.RowHeightValue = New_RowHeight;
+    m_state.RowTwips = rowTwips;
     FitRows();
-    emit PropertyChanged(QStringLiteral("RowHeight"));
+    emit propertyChanged(QStringLiteral("RowHeight"));
 }
 
 int16_t UserControl1::DropDownHeight() const
 {
-    return st.DropDownHeightValue;
+    return m_state.DropDownHeightValue;
 }
 
 // Nothing moves until Mode is assigned, so this comes first.
 void UserControl1::DropDownHeight(int16_t New_DropDownHeight)
 {
-    st.DropDownHeightValue = New_DropDownHeight;
-    st.ViewHeight = st.DropDownHeightValue;
-    emit PropertyChanged(QStringLiteral("DropDownHeight"));
+    m_state.DropDownHeightValue = New_DropDownHeight;
+    m_state.ViewHeight = m_state.DropDownHeightValue;
+    emit propertyChanged(QStringLiteral("DropDownHeight"));
 }
 
 // A value outside the bar's range is refused rather than clamped; setting the value
@@ -192,48 +192,48 @@ void UserControl1::setScrollValue(int value)
     VScroll1->setValue(value);
 }
 
-double UserControl1::ScreenTwipsX() const
+double UserControl1::screenTwipsX() const
 {
     return TwipsPerInch / screen()->logicalDotsPerInchX();
 }
 
-double UserControl1::ScreenTwipsY() const
+double UserControl1::screenTwipsY() const
 {
     return TwipsPerInch / screen()->logicalDotsPerInchY();
 }
 
 // P x 200 / 12, in single precision: 250 twips at 15 twips per pixel.
-float UserControl1::ButtonWidth() const
+float UserControl1::buttonWidth() const
 {
-    return static_cast<float>(ScreenTwipsX()) * 200 / 12;
+    return static_cast<float>(screenTwipsX()) * 200 / 12;
 }
 
 // P x 48 / 12: four pixels.
-float UserControl1::SideGap() const
+float UserControl1::sideGap() const
 {
-    return static_cast<float>(ScreenTwipsX()) * 48 / 12;
+    return static_cast<float>(screenTwipsX()) * 48 / 12;
 }
 
-double UserControl1::ControlWidthTwips() const
+double UserControl1::controlWidthTwips() const
 {
-    return width() * ScreenTwipsX();
+    return width() * screenTwipsX();
 }
 
 // The layout handler runs inside this write whenever the height really changes,
 // whether or not the platform delivers its resize at once.
 void UserControl1::setControlHeight(double twips)
 {
-    const int pixels = std::max(0, static_cast<int>(R(twips / ScreenTwipsY())));
+    const int pixels = std::max(0, static_cast<int>(R(twips / screenTwipsY())));
     if (pixels == height())
         return;
     resize(width(), pixels);
-    if (size() != laidOutSize)
+    if (size() != m_laidOutSize)
         UserControl_Resize();
 }
 
 namespace {
 
-int Pixels(double twips, double twipsPerPixel)
+int pixels(double twips, double twipsPerPixel)
 {
     return std::max(0, static_cast<int>(R(twips / twipsPerPixel)));
 }
@@ -242,30 +242,30 @@ int Pixels(double twips, double twipsPerPixel)
 
 void UserControl1::setChildLeft(QWidget* child, double twips)
 {
-    child->move(borderPixels() + Pixels(twips, ScreenTwipsX()), child->y());
+    child->move(borderPixels() + pixels(twips, screenTwipsX()), child->y());
 }
 
 void UserControl1::setChildTop(QWidget* child, double twips)
 {
-    child->move(child->x(), borderPixels() + Pixels(twips, ScreenTwipsY()));
+    child->move(child->x(), borderPixels() + pixels(twips, screenTwipsY()));
 }
 
 void UserControl1::setChildWidth(QWidget* child, double twips)
 {
-    child->resize(Pixels(twips, ScreenTwipsX()), child->height());
+    child->resize(pixels(twips, screenTwipsX()), child->height());
 }
 
 void UserControl1::setChildHeight(QWidget* child, double twips)
 {
-    child->resize(child->width(), Pixels(twips, ScreenTwipsY()));
+    child->resize(child->width(), pixels(twips, screenTwipsY()));
 }
 
 double UserControl1::childWidth(const QWidget* child) const
 {
-    return child->width() * ScreenTwipsX();
+    return child->width() * screenTwipsX();
 }
 
 double UserControl1::childHeight(const QWidget* child) const
 {
-    return child->height() * ScreenTwipsY();
+    return child->height() * screenTwipsY();
 }

@@ -8,14 +8,14 @@
 
 #include <cmath>
 
-using moveslist::To16;
+using moveslist::to16;
 
 namespace col = itemrecord;
 
 // The row under Y; X is never read, so the whole width counts, and beyond it too.
-double UserControl1::RowUnder(float Y) const
+double UserControl1::rowUnder(float Y) const
 {
-    return std::floor(double(Y) / st.RowTwips);
+    return std::floor(double(Y) / m_state.RowTwips);
 }
 
 // A pick is kept on Text1 in both modes. The host hears of it last, when the new
@@ -23,31 +23,31 @@ double UserControl1::RowUnder(float Y) const
 void UserControl1::Picture1_MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y)
 {
     // Rows never measured have nothing to hit.
-    if (st.RowTwips == 0)
+    if (m_state.RowTwips == 0)
         return;
-    const double row = RowUnder(Y);
-    const double item = row + st.TopRow;
-    if (item < 1 || item > st.ItemCount)
+    const double row = rowUnder(Y);
+    const double item = row + m_state.TopRow;
+    if (item < 1 || item > m_state.ItemCount)
         return;
-    st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
-    Text1->setText(col::Column(st.ItemColumns, col::Text));
+    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(item)]);
+    Text1->setText(col::column(m_state.ItemColumns, col::Text));
     ChosenIndex(moveslist::numberText(item - 1));
     // Off and on again: a click on the marked row leaves it marked.
-    if (st.ComboMode == 0) {
-        if (st.SelectedRow != -1)
-            InvertRowStrip(To16(st.SelectedRow));
-        InvertRowStrip(To16(row));
-        st.SelectedRow = To16(row);
+    if (m_state.ComboMode == 0) {
+        if (m_state.SelectedRow != -1)
+            InvertRowStrip(to16(m_state.SelectedRow));
+        InvertRowStrip(to16(row));
+        m_state.SelectedRow = to16(row);
     }
-    if (st.ComboMode == 1)
+    if (m_state.ComboMode == 1)
         CloseDropDown();
     raiseMouseUp(Button, Shift, X, Y);
 }
 
 void UserControl1::Picture1_MouseMove(int16_t&, int16_t&, float&, float& Y)
 {
-    if (st.ToolTipOn)
-        HoverTip(Y);
+    if (m_state.ToolTipOn)
+        hoverTip(Y);
 }
 
 void UserControl1::command1_MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y)
@@ -62,26 +62,26 @@ void UserControl1::UserControl_MouseMove(int16_t& Button, int16_t& Shift, float&
 
 void UserControl1::Picture1_LostFocus()
 {
-    if (st.ComboMode == 1 && !Picture1->isHidden())
+    if (m_state.ComboMode == 1 && !Picture1->isHidden())
         CloseDropDown();
 }
 
 // The tip shows a row's text in full when its last drawn width is more than the
 // canvas holds. It never disturbs the user: a step that fails is passed over.
-void UserControl1::HoverTip(float Y)
+void UserControl1::hoverTip(float Y)
 {
     double row = 0;
-    if (st.RowTwips != 0)
-        row = RowUnder(Y);
-    const double item = row + st.TopRow;
+    if (m_state.RowTwips != 0)
+        row = rowUnder(Y);
+    const double item = row + m_state.TopRow;
     // Below the last item the columns split last stand, and so does their tip.
-    if (item >= 1 && item <= st.ItemCount)
-        st.ItemColumns = col::Split(st.Items[static_cast<size_t>(item)]);
-    if (st.ItemColumns.size() <= col::DrawnWidth)
+    if (item >= 1 && item <= m_state.ItemCount)
+        m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(item)]);
+    if (m_state.ItemColumns.size() <= col::DrawnWidth)
         return;
     const bool tooWide =
-        moveslist::numericRead(st.ItemColumns[col::DrawnWidth]) > childWidth(Picture1);
-    Picture1->setToolTip(tooWide ? st.ItemColumns[col::Text] : QString());
+        moveslist::numericRead(m_state.ItemColumns[col::DrawnWidth]) > childWidth(Picture1);
+    Picture1->setToolTip(tooWide ? m_state.ItemColumns[col::Text] : QString());
 }
 
 // The host gets copies: what it does to them is no concern of the list.

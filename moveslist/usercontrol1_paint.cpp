@@ -5,14 +5,14 @@
 #include "moveslist/listnumbers.h"
 #include "moveslist/picturebox.h"
 
-using moveslist::To16;
-using moveslist::To32;
+using moveslist::to16;
+using moveslist::to32;
 
 namespace col = itemrecord;
 
 namespace {
 
-double Divide(double a, double b)
+double divide(double a, double b)
 {
     if (b == 0)
         throw ListError(ListErrorCode::DivisionByZero,
@@ -26,62 +26,63 @@ double Divide(double a, double b)
 // scrolling. Nothing is drawn while the canvas is hidden or `first` is negative.
 void UserControl1::DrawRows(int16_t first, int16_t last)
 {
-    if (last > st.ItemCount)
-        last = To16(st.ItemCount);
+    if (last > m_state.ItemCount)
+        last = to16(m_state.ItemCount);
     if (first < 0 || Picture1->isHidden())
         return;
     Picture1->Cls();
     int32_t counter = -1;
     for (int32_t i = first; i <= last; ++i) {
         ++counter;
-        st.NextRowTop = To16(double(counter) * st.RowTwips);
-        DrawItem(i, counter);
+        m_state.NextRowTop = to16(double(counter) * m_state.RowTwips);
+        drawItem(i, counter);
     }
-    st.TopRow = first;
-    st.BottomRow = last;
+    m_state.TopRow = first;
+    m_state.BottomRow = last;
 }
 
 // Draws one item at its own place without clearing, shown canvas or not.
 void UserControl1::DrawOneRow(int16_t row)
 {
-    if (row > st.ItemCount)
+    if (row > m_state.ItemCount)
         return;
-    st.NextRowTop = To16((row - 1.0) * st.RowTwips);
-    DrawItem(row, row - 1);
-    st.BottomRow = row;
+    m_state.NextRowTop = to16((row - 1.0) * m_state.RowTwips);
+    drawItem(row, row - 1);
+    m_state.BottomRow = row;
 }
 
 // Column 5 is rewritten at every draw, so that it always holds the last drawn width.
-void UserControl1::DrawItem(int32_t item, int32_t counter)
+void UserControl1::drawItem(int32_t item, int32_t counter)
 {
     const auto entry = static_cast<size_t>(item);
-    st.ItemColumns = col::Split(entry < st.Items.size() ? st.Items[entry] : QString());
-    if (st.DrawStyleValue == 1)
-        LoadRowPicture(moveslist::numericRead(col::Column(st.ItemColumns, col::PictureIndex)));
+    m_state.ItemColumns =
+        col::Split(entry < m_state.Items.size() ? m_state.Items[entry] : QString());
+    if (m_state.DrawStyleValue == 1)
+        loadRowPicture(moveslist::numericRead(col::column(m_state.ItemColumns, col::PictureIndex)));
     int32_t width = 0;
-    DrawRow(counter, col::Column(st.ItemColumns, col::Text),
-            col::Column(st.ItemColumns, col::FontName), col::Column(st.ItemColumns, col::Colour),
-            st.NextRowTop, width);
-    QStringList columns = st.ItemColumns.mid(0, col::DrawnWidth);
+    DrawRow(counter, col::column(m_state.ItemColumns, col::Text),
+            col::column(m_state.ItemColumns, col::FontName),
+            col::column(m_state.ItemColumns, col::Colour), m_state.NextRowTop, width);
+    QStringList columns = m_state.ItemColumns.mid(0, col::DrawnWidth);
     columns.append(moveslist::numberText(width));
-    st.Items[entry] = col::Join(columns);
+    m_state.Items[entry] = col::join(columns);
 }
 
 void UserControl1::DrawRow(int32_t rowInView, const QString& text, const QString& font,
                            const QString& colour, int16_t y, int32_t& width)
 {
-    const bool withPicture = st.DrawStyleValue != 0;
-    const double top = R((st.RowTwips - st.TextTwips) / 2.0 + y);
-    const auto py = static_cast<int>(R(Divide(top, st.PixelTwipsY)));
-    const double left = withPicture ? st.RowTwips + 96.0 : 48.0;
-    const auto px = static_cast<int>(R(Divide(left, st.PixelTwipsX)));
+    const bool withPicture = m_state.DrawStyleValue != 0;
+    const double top = R((m_state.RowTwips - m_state.TextTwips) / 2.0 + y);
+    const auto py = static_cast<int>(R(divide(top, m_state.PixelTwipsY)));
+    const double left = withPicture ? m_state.RowTwips + 96.0 : 48.0;
+    const auto px = static_cast<int>(R(divide(left, m_state.PixelTwipsX)));
     DrawRowText(px, py, text, colour, font, width);
     if (withPicture) {
-        width = To32(double(width) + st.RowTwips + 96);
-        DrawRowPicture(y);
+        width = to32(double(width) + m_state.RowTwips + 96);
+        drawRowPicture(y);
     }
-    if (st.GridLinesOn == 1)
-        DrawGridLine(rowInView);
+    if (m_state.GridLinesOn == 1)
+        drawGridLine(rowInView);
 }
 
 // The text goes through Picture3 and lands on the canvas as one block, as wide as the
@@ -90,28 +91,28 @@ void UserControl1::DrawRowText(int x, int y, const QString& text, const QString&
                                const QString& font, int32_t& width)
 {
     Picture3->Cls();
-    Picture3->ForeColor(To32(moveslist::numericRead(colour)));
-    Picture3->FontName(font);
+    Picture3->foreColor(to32(moveslist::numericRead(colour)));
+    Picture3->fontName(font);
     Picture3->Print(text);
-    width = To32(R(Picture3->TextWidth(text)));
-    const auto rowPixels = static_cast<int>(R(Divide(st.RowTwips, st.PixelTwipsY)));
+    width = to32(R(Picture3->TextWidth(text)));
+    const auto rowPixels = static_cast<int>(R(divide(m_state.RowTwips, m_state.PixelTwipsY)));
     Picture1->BitBlt(x, y, Picture1->width(), rowPixels, *Picture3, 0, 0);
 }
 
 // AND leaves the row as it is wherever the picture is white; a picture that cannot
 // be painted so is copied plainly, a little narrower.
-void UserControl1::DrawRowPicture(int16_t y)
+void UserControl1::drawRowPicture(int16_t y)
 {
-    double d = (st.RowTwips - childHeight(Picture2)) / 2.0;
+    double d = (m_state.RowTwips - childHeight(Picture2)) / 2.0;
     if (d < 0)
         d = 2;
     const QPointF at(24, R(d + y));
-    const QSizeF size(st.RowTwips + 20.0, st.RowTwips - 40.0);
+    const QSizeF size(m_state.RowTwips + 20.0, m_state.RowTwips - 40.0);
     try {
         Picture1->PaintPicture(Picture2->Picture(), at, size, QPointF(0, 0), size,
                                PictureBox::SourceAnd);
     } catch (const std::exception&) {
-        const QSizeF narrower(st.RowTwips, st.RowTwips - 40.0);
+        const QSizeF narrower(m_state.RowTwips, m_state.RowTwips - 40.0);
         Picture1->PaintPicture(Picture2->Picture(), at, narrower, QPointF(0, 0), narrower,
                                PictureBox::SourceCopy);
     }
@@ -119,11 +120,11 @@ void UserControl1::DrawRowPicture(int16_t y)
 
 // Two pixels above the row's lower end. Under pen OR NOT destination the default
 // colour 0 inverts what lies below: black on a white list.
-void UserControl1::DrawGridLine(int32_t rowInView)
+void UserControl1::drawGridLine(int32_t rowInView)
 {
     Picture1->DrawMode(PictureBox::MergeNotPen);
-    const double ly = (rowInView + 1.0) * st.RowTwips - 2 * ScreenTwipsY();
-    Picture1->Line(QPointF(0, ly), QPointF(childWidth(Picture1), ly), st.GridColorValue);
+    const double ly = (rowInView + 1.0) * m_state.RowTwips - 2 * screenTwipsY();
+    Picture1->Line(QPointF(0, ly), QPointF(childWidth(Picture1), ly), m_state.GridColorValue);
     Picture1->DrawMode(PictureBox::Invert);
 }
 
@@ -132,14 +133,15 @@ void UserControl1::DrawGridLine(int32_t rowInView)
 void UserControl1::InvertRowStrip(int16_t row)
 {
     Picture1->DrawMode(PictureBox::Invert);
-    const double top = double(row) * st.RowTwips;
-    Picture1->FilledBox(QPointF(0, top - 24), QPointF(childWidth(Picture1), top + st.RowTwips), 0);
+    const double top = double(row) * m_state.RowTwips;
+    Picture1->filledBox(QPointF(0, top - 24), QPointF(childWidth(Picture1), top + m_state.RowTwips),
+                        0);
 }
 
-void UserControl1::LoadRowPicture(double index)
+void UserControl1::loadRowPicture(double index)
 {
-    if (!st.PictureListRef)
+    if (!m_state.PictureListRef)
         throw ListError(ListErrorCode::ObjectNotSet,
                         QStringLiteral("Object variable not set: DrawStyle 1 needs a PictureList"));
-    Picture2->Picture(st.PictureListRef->ListImages(To16(index)).Picture);
+    Picture2->Picture(m_state.PictureListRef->ListImages(to16(index)).Picture);
 }

@@ -11,39 +11,39 @@
 #include <cmath>
 #include <limits>
 
-using moveslist::To16;
-using moveslist::To32;
+using moveslist::to16;
+using moveslist::to32;
 
 namespace {
 
 // Booleans are kept as the platform keeps them: -1 for True.
-int16_t Flag(bool on)
+int16_t flag(bool on)
 {
     return on ? -1 : 0;
 }
 
-int16_t Read16(const PropertyBag& bag, const char* key, int16_t defaultValue)
+int16_t read16(const PropertyBag& bag, const char* key, int16_t defaultValue)
 {
-    return To16(bag.ReadProperty(QLatin1String(key), defaultValue).toNumberStrict());
+    return to16(bag.readProperty(QLatin1String(key), defaultValue).toNumberStrict());
 }
 
-int32_t Read32(const PropertyBag& bag, const char* key, int32_t defaultValue)
+int32_t read32(const PropertyBag& bag, const char* key, int32_t defaultValue)
 {
-    return To32(bag.ReadProperty(QLatin1String(key), defaultValue).toNumberStrict());
+    return to32(bag.readProperty(QLatin1String(key), defaultValue).toNumberStrict());
 }
 
-bool ReadFlag(const PropertyBag& bag, const char* key)
+bool readFlag(const PropertyBag& bag, const char* key)
 {
-    return bag.ReadProperty(QLatin1String(key), 0).toNumberStrict() != 0;
+    return bag.readProperty(QLatin1String(key), 0).toNumberStrict() != 0;
 }
 
-AnyValue ReadAny(const PropertyBag& bag, const char* key)
+AnyValue readAny(const PropertyBag& bag, const char* key)
 {
-    return bag.ReadProperty(QLatin1String(key), 0);
+    return bag.readProperty(QLatin1String(key), 0);
 }
 
 // An "any value" is stored in the narrowest form that holds it.
-PropertyType TypeOf(const AnyValue& value)
+PropertyType typeOf(const AnyValue& value)
 {
     if (value.isEmpty())
         return PropertyType::Empty;
@@ -61,119 +61,119 @@ PropertyType TypeOf(const AnyValue& value)
     return PropertyType::Double;
 }
 
-void Write(PropertyBag& bag, const char* key, PropertyType type, const AnyValue& value,
+void write(PropertyBag& bag, const char* key, PropertyType type, const AnyValue& value,
            const AnyValue& defaultValue)
 {
-    bag.WriteProperty(QLatin1String(key), type, value, defaultValue);
+    bag.writeProperty(QLatin1String(key), type, value, defaultValue);
 }
 
-void WriteAny(PropertyBag& bag, const char* key, const AnyValue& value)
+void writeAny(PropertyBag& bag, const char* key, const AnyValue& value)
 {
-    bag.WriteProperty(QLatin1String(key), TypeOf(value), value, 0);
+    bag.writeProperty(QLatin1String(key), typeOf(value), value, 0);
 }
 
 } // namespace
 
 void UserControl1::UserControl_InitProperties()
 {
-    st.EnabledValue = false;
-    st.ListCountStore = 0;
-    st.GridLinesValue = 0;
-    st.DropDownHeightValue = 0;
-    st.ModeValue = 0;
-    st.RowHeightValue = 0;
-    st.ListStore = 0;
-    st.TextStore = 0;
-    st.ListIndexStore = 0;
-    st.DrawStyleValue = 0;
-    st.GridColorValue = 0;
-    st.ToolTipOn = false;
+    m_state.EnabledValue = false;
+    m_state.ListCountStore = 0;
+    m_state.GridLinesValue = 0;
+    m_state.DropDownHeightValue = 0;
+    m_state.ModeValue = 0;
+    m_state.RowHeightValue = 0;
+    m_state.ListStore = 0;
+    m_state.TextStore = 0;
+    m_state.ListIndexStore = 0;
+    m_state.DrawStyleValue = 0;
+    m_state.GridColorValue = 0;
+    m_state.ToolTipOn = false;
 }
 
 // Most keys only fill a store: Mode, DropDownHeight and RowHeight act once the host
 // assigns them, and the list stays hidden until Mode is assigned.
 void UserControl1::UserControl_ReadProperties(const PropertyBag& PropBag)
 {
-    st.EnabledValue = ReadFlag(PropBag, "Enabled");
-    const QByteArray pictures = PropBag.ReadObject(QStringLiteral("PictureList"));
-    st.PictureListRef =
-        pictures.isEmpty() ? nullptr : std::make_shared<ImageList>(ImageList::Load(pictures));
-    st.ListCountStore = ReadAny(PropBag, "ListCount");
-    st.GridLinesValue = Flag(ReadFlag(PropBag, "GridLines"));
-    applySurfaceBorder(Read16(PropBag, "BorderStyle", 1));
-    st.ModeValue = Read16(PropBag, "Mode", 0);
-    st.SelectedRow = -1;
-    st.NextRowTop = 0;
+    m_state.EnabledValue = readFlag(PropBag, "Enabled");
+    const QByteArray pictures = PropBag.readObject(QStringLiteral("PictureList"));
+    m_state.PictureListRef =
+        pictures.isEmpty() ? nullptr : std::make_shared<ImageList>(ImageList::load(pictures));
+    m_state.ListCountStore = readAny(PropBag, "ListCount");
+    m_state.GridLinesValue = flag(readFlag(PropBag, "GridLines"));
+    applySurfaceBorder(read16(PropBag, "BorderStyle", 1));
+    m_state.ModeValue = read16(PropBag, "Mode", 0);
+    m_state.SelectedRow = -1;
+    m_state.NextRowTop = 0;
     Picture1->hide();
     VScroll1->hide();
-    Picture1->ForeColor(Read32(PropBag, "ForeColor", olecolor::WindowText));
-    st.GridLinesOn = st.GridLinesValue != 0 ? 1 : 0;
-    st.DropDownHeightValue = Read16(PropBag, "DropDownHeight", 0);
-    st.RowHeightValue = ReadAny(PropBag, "RowHeight");
-    st.ListStore = ReadAny(PropBag, "List");
-    st.TextStore = ReadAny(PropBag, "Text");
-    st.ListIndexStore = ReadAny(PropBag, "ListIndex");
-    st.DrawStyleValue = Read16(PropBag, "DrawStyle", 0);
-    applySurfaceBackColor(Read32(PropBag, "BackColor", olecolor::ButtonFace));
-    st.GridColorValue = Read32(PropBag, "GridColor", 0);
-    st.ToolTipOn = ReadFlag(PropBag, "ToolTip");
+    Picture1->foreColor(read32(PropBag, "ForeColor", olecolor::WindowText));
+    m_state.GridLinesOn = m_state.GridLinesValue != 0 ? 1 : 0;
+    m_state.DropDownHeightValue = read16(PropBag, "DropDownHeight", 0);
+    m_state.RowHeightValue = readAny(PropBag, "RowHeight");
+    m_state.ListStore = readAny(PropBag, "List");
+    m_state.TextStore = readAny(PropBag, "Text");
+    m_state.ListIndexStore = readAny(PropBag, "ListIndex");
+    m_state.DrawStyleValue = read16(PropBag, "DrawStyle", 0);
+    applySurfaceBackColor(read32(PropBag, "BackColor", olecolor::ButtonFace));
+    m_state.GridColorValue = read32(PropBag, "GridColor", 0);
+    m_state.ToolTipOn = readFlag(PropBag, "ToolTip");
 }
 
 // Fontname and FontSize are written and never read back; List, Text and ListIndex
 // are read and never written.
 void UserControl1::UserControl_WriteProperties(PropertyBag& PropBag) const
 {
-    Write(PropBag, "Enabled", PropertyType::Integer, Flag(st.EnabledValue), 0);
-    PropBag.WriteObject(QStringLiteral("PictureList"),
-                        st.PictureListRef ? st.PictureListRef->Save() : QByteArray());
-    WriteAny(PropBag, "ListCount", st.ListCountStore);
-    Write(PropBag, "Fontname", PropertyType::Text, Fontname(), "0");
-    Write(PropBag, "FontSize", PropertyType::Single, FontSize(), 0);
-    Write(PropBag, "ForeColor", PropertyType::Long, forecolor(), olecolor::WindowText);
-    Write(PropBag, "GridLines", PropertyType::Integer, st.GridLinesValue, 0);
-    Write(PropBag, "BorderStyle", PropertyType::Integer, surfaceBorderStyle, 1);
-    Write(PropBag, "DropDownHeight", PropertyType::Integer, st.DropDownHeightValue, 0);
-    Write(PropBag, "Mode", PropertyType::Integer, st.ModeValue, 0);
-    WriteAny(PropBag, "RowHeight", st.RowHeightValue);
-    Write(PropBag, "DrawStyle", PropertyType::Integer, st.DrawStyleValue, 0);
-    Write(PropBag, "BackColor", PropertyType::Long, surfaceBackColor, olecolor::ButtonFace);
-    Write(PropBag, "GridColor", PropertyType::Long, st.GridColorValue, 0);
-    Write(PropBag, "ToolTip", PropertyType::Integer, Flag(st.ToolTipOn), 0);
+    write(PropBag, "Enabled", PropertyType::Integer, flag(m_state.EnabledValue), 0);
+    PropBag.writeObject(QStringLiteral("PictureList"),
+                        m_state.PictureListRef ? m_state.PictureListRef->save() : QByteArray());
+    writeAny(PropBag, "ListCount", m_state.ListCountStore);
+    write(PropBag, "Fontname", PropertyType::Text, Fontname(), "0");
+    write(PropBag, "FontSize", PropertyType::Single, FontSize(), 0);
+    write(PropBag, "ForeColor", PropertyType::Long, forecolor(), olecolor::WindowText);
+    write(PropBag, "GridLines", PropertyType::Integer, m_state.GridLinesValue, 0);
+    write(PropBag, "BorderStyle", PropertyType::Integer, m_surfaceBorderStyle, 1);
+    write(PropBag, "DropDownHeight", PropertyType::Integer, m_state.DropDownHeightValue, 0);
+    write(PropBag, "Mode", PropertyType::Integer, m_state.ModeValue, 0);
+    writeAny(PropBag, "RowHeight", m_state.RowHeightValue);
+    write(PropBag, "DrawStyle", PropertyType::Integer, m_state.DrawStyleValue, 0);
+    write(PropBag, "BackColor", PropertyType::Long, m_surfaceBackColor, olecolor::ButtonFace);
+    write(PropBag, "GridColor", PropertyType::Long, m_state.GridColorValue, 0);
+    write(PropBag, "ToolTip", PropertyType::Integer, flag(m_state.ToolTipOn), 0);
 }
 
 bool UserControl1::Enabled() const
 {
-    return st.EnabledValue;
+    return m_state.EnabledValue;
 }
 
 // Kept and reported only: nothing in the list looks at it.
 void UserControl1::Enabled(bool New_Enabled)
 {
-    st.EnabledValue = New_Enabled;
-    emit PropertyChanged(QStringLiteral("Enabled"));
+    m_state.EnabledValue = New_Enabled;
+    emit propertyChanged(QStringLiteral("Enabled"));
 }
 
 std::shared_ptr<ImageList> UserControl1::PictureList() const
 {
-    return st.PictureListRef;
+    return m_state.PictureListRef;
 }
 
 void UserControl1::PictureList(std::shared_ptr<ImageList> New_PictureList)
 {
-    st.PictureListRef = std::move(New_PictureList);
-    emit PropertyChanged(QStringLiteral("PictureList"));
+    m_state.PictureListRef = std::move(New_PictureList);
+    emit propertyChanged(QStringLiteral("PictureList"));
 }
 
 // Picture1's font serves measuring only: rows take their font name from their record.
 QString UserControl1::Fontname() const
 {
-    return Picture1->FontName();
+    return Picture1->fontName();
 }
 
 void UserControl1::Fontname(const QString& New_Fontname)
 {
-    Picture1->FontName(New_Fontname);
-    emit PropertyChanged(QStringLiteral("Fontname"));
+    Picture1->fontName(New_Fontname);
+    emit propertyChanged(QStringLiteral("Fontname"));
 }
 
 // The rows take this size over at the first item.
@@ -185,35 +185,35 @@ float UserControl1::FontSize() const
 void UserControl1::FontSize(float New_FontSize)
 {
     Picture1->FontSize(New_FontSize);
-    emit PropertyChanged(QStringLiteral("FontSize"));
+    emit propertyChanged(QStringLiteral("FontSize"));
 }
 
 int32_t UserControl1::forecolor() const
 {
-    return Picture1->ForeColor();
+    return Picture1->foreColor();
 }
 
 void UserControl1::forecolor(int32_t New_forecolor)
 {
-    Picture1->ForeColor(New_forecolor);
-    emit PropertyChanged(QStringLiteral("ForeColor"));
+    Picture1->foreColor(New_forecolor);
+    emit propertyChanged(QStringLiteral("ForeColor"));
 }
 
 bool UserControl1::GridLines() const
 {
-    return st.GridLinesValue != 0;
+    return m_state.GridLinesValue != 0;
 }
 
 void UserControl1::GridLines(bool New_GridLines)
 {
-    st.GridLinesValue = Flag(New_GridLines);
-    st.GridLinesOn = New_GridLines ? 1 : 0;
-    emit PropertyChanged(QStringLiteral("GridLines"));
+    m_state.GridLinesValue = flag(New_GridLines);
+    m_state.GridLinesOn = New_GridLines ? 1 : 0;
+    emit propertyChanged(QStringLiteral("GridLines"));
 }
 
 int16_t UserControl1::BorderStyle() const
 {
-    return surfaceBorderStyle;
+    return m_surfaceBorderStyle;
 }
 
 // Applies from the next layout pass on: nothing moves now.
@@ -223,23 +223,23 @@ void UserControl1::BorderStyle(int16_t New_BorderStyle)
         throw ListError(ListErrorCode::InvalidPropertyValue,
                         QStringLiteral("Invalid property value: BorderStyle is 0 or 1"));
     applySurfaceBorder(New_BorderStyle);
-    emit PropertyChanged(QStringLiteral("BorderStyle"));
+    emit propertyChanged(QStringLiteral("BorderStyle"));
 }
 
 int16_t UserControl1::DrawStyle() const
 {
-    return st.DrawStyleValue;
+    return m_state.DrawStyleValue;
 }
 
 void UserControl1::DrawStyle(int16_t New_DrawStyle)
 {
-    st.DrawStyleValue = New_DrawStyle;
-    emit PropertyChanged(QStringLiteral("DrawStyle"));
+    m_state.DrawStyleValue = New_DrawStyle;
+    emit propertyChanged(QStringLiteral("DrawStyle"));
 }
 
 int32_t UserControl1::BackColor() const
 {
-    return surfaceBackColor;
+    return m_surfaceBackColor;
 }
 
 // The canvas is wiped by its new colour and counts as unpainted; nothing is redrawn.
@@ -249,30 +249,30 @@ void UserControl1::BackColor(int32_t New_BackColor)
     Picture1->BackColor(New_BackColor);
     Picture3->BackColor(New_BackColor);
     QPalette box = Text1->palette();
-    box.setColor(QPalette::Base, olecolor::ToQColor(New_BackColor));
+    box.setColor(QPalette::Base, olecolor::toQColor(New_BackColor));
     Text1->setPalette(box);
-    st.TopRow = -1;
-    emit PropertyChanged(QStringLiteral("BackColor"));
+    m_state.TopRow = -1;
+    emit propertyChanged(QStringLiteral("BackColor"));
 }
 
 int32_t UserControl1::GridColor() const
 {
-    return st.GridColorValue;
+    return m_state.GridColorValue;
 }
 
 void UserControl1::GridColor(int32_t New_GridColor)
 {
-    st.GridColorValue = New_GridColor;
-    emit PropertyChanged(QStringLiteral("GridColor"));
+    m_state.GridColorValue = New_GridColor;
+    emit propertyChanged(QStringLiteral("GridColor"));
 }
 
 bool UserControl1::ToolTip() const
 {
-    return st.ToolTipOn;
+    return m_state.ToolTipOn;
 }
 
 void UserControl1::ToolTip(bool New_ToolTip)
 {
-    st.ToolTipOn = New_ToolTip;
-    emit PropertyChanged(QStringLiteral("ToolTip"));
+    m_state.ToolTipOn = New_ToolTip;
+    emit propertyChanged(QStringLiteral("ToolTip"));
 }

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <utility>
 
-using moveslist::To16;
+using moveslist::to16;
 
 namespace {
 
@@ -21,7 +21,7 @@ struct Split {
 // Records compare as binary text, code unit by code unit, case counting.
 template <bool Ascending> class HoleSort {
 public:
-    explicit HoleSort(std::vector<QString>& items) : items(items) {}
+    explicit HoleSort(std::vector<QString>& items) : m_items(items) {}
 
     // Recurses into the smaller part and loops on the larger, so that a list of
     // identical records, which leaves every record on one side, stays shallow.
@@ -44,14 +44,14 @@ private:
     bool staysOnTop(const QString& record, const QString& pivot)
     {
         const int order = record.compare(pivot);
-        sawEqual = sawEqual || order == 0;
+        m_sawEqual = m_sawEqual || order == 0;
         return Ascending ? order >= 0 : order < 0;
     }
 
     bool staysAtBottom(const QString& record, const QString& pivot)
     {
         const int order = record.compare(pivot);
-        sawEqual = sawEqual || order == 0;
+        m_sawEqual = m_sawEqual || order == 0;
         return Ascending ? order < 0 : order >= 0;
     }
 
@@ -59,35 +59,35 @@ private:
     // move is one assignment, and no record is swapped.
     Split partition(int first, int last)
     {
-        const float r = moveslist::Rnd();
+        const float r = moveslist::rnd();
         // Single precision can round the top draw up to last + 1.
         const int p = std::min(
             last, static_cast<int>(std::floor(float(last - first + 1) * r + float(first))));
-        QString pivot = std::move(items[p]);
+        QString pivot = std::move(m_items[p]);
         if (p != first)
-            items[p] = std::move(items[first]);
-        sawEqual = false;
+            m_items[p] = std::move(m_items[first]);
+        m_sawEqual = false;
         int lo = first;
         int hi = last;
         for (;;) {
-            while (hi > lo && staysOnTop(items[hi], pivot))
+            while (hi > lo && staysOnTop(m_items[hi], pivot))
                 --hi;
             if (hi <= lo) {
-                items[lo] = std::move(pivot);
+                m_items[lo] = std::move(pivot);
                 break;
             }
-            items[lo] = std::move(items[hi]);
+            m_items[lo] = std::move(m_items[hi]);
             ++lo;
-            while (lo < hi && staysAtBottom(items[lo], pivot))
+            while (lo < hi && staysAtBottom(m_items[lo], pivot))
                 ++lo;
             if (lo >= hi) {
                 lo = hi;
-                items[hi] = std::move(pivot);
+                m_items[hi] = std::move(pivot);
                 break;
             }
-            items[hi] = std::move(items[lo]);
+            m_items[hi] = std::move(m_items[lo]);
         }
-        return sawEqual ? gatherEquals(first, lo, last) : Split{lo - 1, lo + 1};
+        return m_sawEqual ? gatherEquals(first, lo, last) : Split{lo - 1, lo + 1};
     }
 
     // Records equal to the pivot all went to one side of it. Brought next to the pivot
@@ -95,23 +95,23 @@ private:
     // growing with the square of its length.
     Split gatherEquals(int first, int at, int last)
     {
-        const QString& pivot = items[at];
+        const QString& pivot = m_items[at];
         if (Ascending) {
             int next = at + 1;
             for (int k = at + 1; k <= last; ++k)
-                if (items[k] == pivot)
-                    std::swap(items[k], items[next++]);
+                if (m_items[k] == pivot)
+                    std::swap(m_items[k], m_items[next++]);
             return {at - 1, next};
         }
         int next = at - 1;
         for (int k = at - 1; k >= first; --k)
-            if (items[k] == pivot)
-                std::swap(items[k], items[next--]);
+            if (m_items[k] == pivot)
+                std::swap(m_items[k], m_items[next--]);
         return {next, at + 1};
     }
 
-    std::vector<QString>& items;
-    bool sawEqual = false;
+    std::vector<QString>& m_items;
+    bool m_sawEqual = false;
 };
 
 } // namespace
@@ -120,22 +120,22 @@ private:
 // the scroll position are not carried along.
 void UserControl1::SortAscending()
 {
-    QuickSortUp(1, To16(st.ItemCount));
-    DrawRows(st.TopRow, st.BottomRow);
+    QuickSortUp(1, to16(m_state.ItemCount));
+    DrawRows(m_state.TopRow, m_state.BottomRow);
 }
 
 void UserControl1::SortDescending()
 {
-    QuickSortDown(1, To16(st.ItemCount));
-    DrawRows(st.TopRow, st.BottomRow);
+    QuickSortDown(1, to16(m_state.ItemCount));
+    DrawRows(m_state.TopRow, m_state.BottomRow);
 }
 
 void UserControl1::QuickSortUp(int16_t first, int16_t last)
 {
-    HoleSort<true>(st.Items).run(first, last);
+    HoleSort<true>(m_state.Items).run(first, last);
 }
 
 void UserControl1::QuickSortDown(int16_t first, int16_t last)
 {
-    HoleSort<false>(st.Items).run(first, last);
+    HoleSort<false>(m_state.Items).run(first, last);
 }

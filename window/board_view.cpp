@@ -47,7 +47,7 @@ void Form1::DrawPotHot(int16_t Pot, const std::string& Text)
 void Form1::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF at = event->position();
-    m_game.Form_MouseMove(ButtonNumber(event->buttons()), ShiftNumber(event->modifiers()),
+    m_game.Form_MouseMove(buttonNumber(event->buttons()), shiftNumber(event->modifiers()),
                           Twips::fromPixels(static_cast<float>(at.x())),
                           Twips::fromPixels(static_cast<float>(at.y())));
 }

@@ -15,7 +15,7 @@ void Form1::Scorex_MouseUp(int16_t, int16_t, float, float)
 {
     Score1->ScoreShow(true);
     Score1->Visible(true);
-    Score1->ZOrder(0);
+    Score1->zOrder(0);
 }
 
 void Form1::Helpx_Click()

@@ -18,12 +18,12 @@
 
 namespace {
 
-QString FromStd(const std::string& s)
+QString fromStd(const std::string& s)
 {
     return QString::fromStdString(s);
 }
 
-QFont ArialFont(double points, bool bold)
+QFont arialFont(double points, bool bold)
 {
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(points);
@@ -31,7 +31,7 @@ QFont ArialFont(double points, bool bold)
     return font;
 }
 
-QFont SansSerifFont(bool bold)
+QFont sansSerifFont(bool bold)
 {
     QFont font(QStringLiteral("MS Sans Serif"));
     font.setPointSizeF(8.25);
@@ -39,12 +39,12 @@ QFont SansSerifFont(bool bold)
     return font;
 }
 
-int Px(int twips)
+int px(int twips)
 {
     return Twips::toPixels(static_cast<float>(twips));
 }
 
-QRect PxRect(const Layout::Rect& r)
+QRect pxRect(const Layout::Rect& r)
 {
     return Twips::toPixels(static_cast<float>(r.left), static_cast<float>(r.top),
                            static_cast<float>(r.width), static_cast<float>(r.height));
@@ -53,7 +53,7 @@ QRect PxRect(const Layout::Rect& r)
 } // namespace
 
 // The game's fonts come from another desktop; these look alike and ship with Debian.
-static void InstallFontSubstitutes()
+static void installFontSubstitutes()
 {
     const QStringList sans{QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
                            QStringLiteral("DejaVu Sans")};
@@ -63,11 +63,11 @@ static void InstallFontSubstitutes()
 
 Form1::Form1(QWidget* parent) : QWidget(parent)
 {
-    InstallFontSubstitutes();
+    installFontSubstitutes();
     setWindowTitle(QStringLiteral("TAVOK"));
     setWindowIcon(QIcon(Pictures::Board));
-    setFont(SansSerifFont(true));
-    setFixedSize(Px(Layout::ClientWidth), Px(Layout::ClientHeight));
+    setFont(sansSerifFont(true));
+    setFixedSize(px(Layout::ClientWidth), px(Layout::ClientHeight));
     // Mouse moves over the bare surface end a hover look.
     setMouseTracking(true);
 
@@ -87,10 +87,10 @@ Form1::~Form1()
 }
 
 // A plain button: Arial 8.25, window text on button face, raised edges.
-static void MakePlainButton(Quillet* button, const QString& caption)
+static void makePlainButton(Quillet* button, const QString& caption)
 {
     const QPalette palette = button->palette();
-    button->setFont(ArialFont(8.25, false));
+    button->setFont(arialFont(8.25, false));
     button->forecolor(palette.color(QPalette::WindowText));
     button->backcolor(palette.color(QPalette::Button));
     button->bordertop(palette.color(QPalette::Light));
@@ -101,7 +101,7 @@ static void MakePlainButton(Quillet* button, const QString& caption)
 }
 
 // Edges in the face colour: the control shows only its picture and caption.
-static void MakeFlat(Quillet* q)
+static void makeFlat(Quillet* q)
 {
     const QColor face = q->palette().color(QPalette::Button);
     q->backcolor(face);
@@ -111,7 +111,7 @@ static void MakeFlat(Quillet* q)
     q->borderbottom(face);
 }
 
-static QLabel* MakeLabel(QWidget* parent, const char* name, const QString& text)
+static QLabel* makeLabel(QWidget* parent, const char* name, const QString& text)
 {
     auto* label = new QLabel(text, parent);
     label->setObjectName(QString::fromLatin1(name));
@@ -121,7 +121,7 @@ static QLabel* MakeLabel(QWidget* parent, const char* name, const QString& text)
     return label;
 }
 
-static void SetTextColors(QLabel* label, const QColor& text, const QColor& back)
+static void setTextColors(QLabel* label, const QColor& text, const QColor& back)
 {
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, text);
@@ -138,28 +138,28 @@ void Form1::createControls()
 
     Score1 = new Marlets::Marlet(this);
     Score1->setObjectName(QStringLiteral("Score1"));
-    Score1->setGeometry(PxRect(Layout::Score1));
+    Score1->setGeometry(pxRect(Layout::Score1));
     Score1->Visible(false);
 
     // The log keeps the platform's plain font, not the window's bold one: it is made
     // apart and only then put on the window.
-    MovesList = UserControl1::FromBlock(MovesListBlock(), nullptr);
-    MovesList->setFont(SansSerifFont(false));
+    MovesList = UserControl1::fromBlock(movesListBlock(), nullptr);
+    MovesList->setFont(sansSerifFont(false));
     MovesList->setParent(this);
     MovesList->setObjectName(QStringLiteral("MovesList"));
-    MovesList->setGeometry(PxRect(Layout::MovesList));
+    MovesList->setGeometry(pxRect(Layout::MovesList));
     voiceMovesList();
 
     Hand = new Quillet(this);
     Hand->setObjectName(QStringLiteral("Hand"));
-    Hand->Move(Layout::Hand.left, Layout::Hand.top, Layout::Hand.width, Layout::Hand.height);
-    MakeFlat(Hand);
+    Hand->place(Layout::Hand.left, Layout::Hand.top, Layout::Hand.width, Layout::Hand.height);
+    makeFlat(Hand);
     Hand->picture(Pictures::load(Pictures::Hand));
     Hand->Visible(false);
 
     StartBeads = new QSlider(Qt::Horizontal, this);
     StartBeads->setObjectName(QStringLiteral("StartBeads"));
-    StartBeads->setGeometry(PxRect(Layout::StartBeads));
+    StartBeads->setGeometry(pxRect(Layout::StartBeads));
     StartBeads->setRange(2, 99);
     StartBeads->setSingleStep(1);
     StartBeads->setPageStep(10);
@@ -168,22 +168,22 @@ void Form1::createControls()
 
     Text1 = new QLineEdit(QStringLiteral("Text1"), this);
     Text1->setObjectName(QStringLiteral("Text1"));
-    Text1->setGeometry(PxRect(Layout::Text1));
+    Text1->setGeometry(pxRect(Layout::Text1));
     Text1->hide();
 
     Mess = new Quillet(this);
     Mess->setObjectName(QStringLiteral("Mess"));
-    Mess->Move(Layout::Mess.left, Layout::Mess.top, Layout::Mess.width, Layout::Mess.height);
-    MakePlainButton(Mess, QStringLiteral("Command"));
-    Mess->setFont(SansSerifFont(false));
+    Mess->place(Layout::Mess.left, Layout::Mess.top, Layout::Mess.width, Layout::Mess.height);
+    makePlainButton(Mess, QStringLiteral("Command"));
+    Mess->setFont(sansSerifFont(false));
     Mess->enabled(false);
 
     createBoard();
 
-    Label2 = MakeLabel(this, "Label2", QStringLiteral("Label2"));
-    Label2->setGeometry(PxRect(Layout::Label2));
-    Label2->setFont(ArialFont(8.25, true));
-    SetTextColors(Label2, Qt::white, Qt::black);
+    Label2 = makeLabel(this, "Label2", QStringLiteral("Label2"));
+    Label2->setGeometry(pxRect(Layout::Label2));
+    Label2->setFont(arialFont(8.25, true));
+    setTextColors(Label2, Qt::white, Qt::black);
 
     // Stacking: the hand over the letters, the score board over the log.
     Hand->raise();
@@ -193,12 +193,12 @@ void Form1::createControls()
 void Form1::createBoard()
 {
     // The hidden pictures that hold the raised discs the pots take their faces from.
-    Image4 = MakeLabel(this, "Image4", {});
-    Image4->setGeometry(PxRect(Layout::Image4));
+    Image4 = makeLabel(this, "Image4", {});
+    Image4->setGeometry(pxRect(Layout::Image4));
     Image4->setPixmap(Pictures::load(Pictures::DiscGreenRaised));
     Image4->hide();
-    Image3 = MakeLabel(this, "Image3", {});
-    Image3->setGeometry(PxRect(Layout::Image3));
+    Image3 = makeLabel(this, "Image3", {});
+    Image3->setGeometry(pxRect(Layout::Image3));
     Image3->setPixmap(Pictures::load(Pictures::DiscRedRaised));
     Image3->hide();
     const QPixmap greenRaised = Image4->pixmap();
@@ -208,10 +208,10 @@ void Form1::createBoard()
     for (int s = 0; s < SlotCount; ++s) {
         auto* pot = new Quillet(this);
         pot->setObjectName(QStringLiteral("Pots%1").arg(s));
-        pot->Move(Layout::PotLeft[s], Layout::PotTop[s], Layout::PotSize, Layout::PotSize);
-        MakeFlat(pot);
+        pot->place(Layout::PotLeft[s], Layout::PotTop[s], Layout::PotSize, Layout::PotSize);
+        makeFlat(pot);
         pot->forecolor(Qt::white);
-        pot->setFont(ArialFont(10.5, true));
+        pot->setFont(arialFont(10.5, true));
         pot->caption(QStringLiteral("999"));
         if (s == HumanBank)
             pot->picture(greenSunken);
@@ -224,16 +224,16 @@ void Form1::createBoard()
         Pots[s] = pot;
     }
 
-    Label3 = MakeLabel(this, "Label3", QStringLiteral("COMPUTER"));
-    Label3->setGeometry(PxRect(Layout::Label3));
-    Label3->setFont(ArialFont(8.25, true));
-    SetTextColors(Label3, QColor(192, 0, 0), {});
+    Label3 = makeLabel(this, "Label3", QStringLiteral("COMPUTER"));
+    Label3->setGeometry(pxRect(Layout::Label3));
+    Label3->setFont(arialFont(8.25, true));
+    setTextColors(Label3, QColor(192, 0, 0), {});
     Label3->setToolTip(QStringLiteral("Computer moves beades from RED pots, right to left"));
 
-    Label1 = MakeLabel(this, "Label1", QStringLiteral("HUMAN"));
-    Label1->setGeometry(PxRect(Layout::Label1));
-    Label1->setFont(ArialFont(8.25, true));
-    SetTextColors(Label1, QColor(0, 192, 0), {});
+    Label1 = makeLabel(this, "Label1", QStringLiteral("HUMAN"));
+    Label1->setGeometry(pxRect(Layout::Label1));
+    Label1->setFont(arialFont(8.25, true));
+    setTextColors(Label1, QColor(0, 192, 0), {});
     Label1->setToolTip(QStringLiteral("Human moves beades from GREEN pots, left to right"));
 
     const QColor totalBack[3] = {{}, QColor(255, 0, 0), QColor(0, 192, 0)};
@@ -241,12 +241,12 @@ void Form1::createBoard()
                                  QStringLiteral("Total Beads accumulated by the Computer"),
                                  QStringLiteral("Total Beads accumulated by the Human player")};
     for (int i = 1; i <= 2; ++i) {
-        QLabel* total = MakeLabel(this, i == 1 ? "TotalB1" : "TotalB2", QStringLiteral("TOTAL"));
-        total->setGeometry(PxRect(Layout::TotalB[i]));
-        total->setFont(ArialFont(14.25, true));
+        QLabel* total = makeLabel(this, i == 1 ? "TotalB1" : "TotalB2", QStringLiteral("TOTAL"));
+        total->setGeometry(pxRect(Layout::TotalB[i]));
+        total->setFont(arialFont(14.25, true));
         total->setFrameShape(QFrame::Box);
         total->setLineWidth(1);
-        SetTextColors(total, Qt::black, totalBack[i]);
+        setTextColors(total, Qt::black, totalBack[i]);
         total->setToolTip(totalTip[i]);
         TotalB[i] = total;
     }
@@ -254,25 +254,25 @@ void Form1::createBoard()
     for (int i = 0; i < 6; ++i) {
         const char* names[] = {"PotName0", "PotName1", "PotName2",
                                "PotName3", "PotName4", "PotName5"};
-        QLabel* letter = MakeLabel(this, names[i], QString(QChar('A' + i)));
-        letter->setGeometry(Px(Layout::PotNameLeft[i]), Px(Layout::PotNameTop),
-                            Px(Layout::PotNameWidth), Px(Layout::PotNameHeight));
-        letter->setFont(ArialFont(14.25, true));
-        SetTextColors(letter, Qt::black, {});
+        QLabel* letter = makeLabel(this, names[i], QString(QChar('A' + i)));
+        letter->setGeometry(px(Layout::PotNameLeft[i]), px(Layout::PotNameTop),
+                            px(Layout::PotNameWidth), px(Layout::PotNameHeight));
+        letter->setFont(arialFont(14.25, true));
+        setTextColors(letter, Qt::black, {});
         PotName[i] = letter;
     }
 
-    Image1 = MakeLabel(this, "Image1", {});
-    Image1->setGeometry(PxRect(Layout::Image1));
+    Image1 = makeLabel(this, "Image1", {});
+    Image1->setGeometry(pxRect(Layout::Image1));
     Image1->setScaledContents(true);
     Image1->setPixmap(Pictures::load(Pictures::ArrowRed));
-    Image2 = MakeLabel(this, "Image2", {});
-    Image2->setGeometry(PxRect(Layout::Image2));
+    Image2 = makeLabel(this, "Image2", {});
+    Image2->setGeometry(pxRect(Layout::Image2));
     Image2->setScaledContents(true);
     Image2->setPixmap(Pictures::load(Pictures::ArrowGreen));
 }
 
-static QGroupBox* MakeFrame(QWidget* parent, const char* name)
+static QGroupBox* makeFrame(QWidget* parent, const char* name)
 {
     auto* frame = new QGroupBox(parent);
     frame->setObjectName(QString::fromLatin1(name));
@@ -282,17 +282,17 @@ static QGroupBox* MakeFrame(QWidget* parent, const char* name)
 
 void Form1::createCommandPanel()
 {
-    Frame2 = MakeFrame(this, "Frame2");
-    Frame2->setGeometry(PxRect(Layout::Frame2));
-    CommandFrame = MakeFrame(this, "CommandFrame");
-    CommandFrame->setGeometry(PxRect(Layout::CommandFrame));
+    Frame2 = makeFrame(this, "Frame2");
+    Frame2->setGeometry(pxRect(Layout::Frame2));
+    CommandFrame = makeFrame(this, "CommandFrame");
+    CommandFrame->setGeometry(pxRect(Layout::CommandFrame));
 
     auto button = [this](QWidget* frame, const char* name, const Layout::Rect& r,
                          const QString& caption, const QString& tip) {
         auto* q = new Quillet(frame);
         q->setObjectName(QString::fromLatin1(name));
-        q->Move(r.left, r.top, r.width, r.height);
-        MakePlainButton(q, caption);
+        q->place(r.left, r.top, r.width, r.height);
+        makePlainButton(q, caption);
         if (!tip.isEmpty())
             q->setToolTip(tip);
         describeButton(q);
@@ -372,18 +372,18 @@ void Form1::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(QPen(Qt::black, 3, Qt::SolidLine, Qt::FlatCap));
     for (int x : Layout::Line5X)
-        painter.drawLine(Px(x), Px(Layout::Line5Top), Px(x), Px(Layout::Line5Bottom));
+        painter.drawLine(px(x), px(Layout::Line5Top), px(x), px(Layout::Line5Bottom));
 
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QRectF(PxRect(Layout::Shape1Rows)).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.drawEllipse(QRectF(PxRect(Layout::Shape1Banks)).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawEllipse(QRectF(pxRect(Layout::Shape1Rows)).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawEllipse(QRectF(pxRect(Layout::Shape1Banks)).adjusted(0.5, 0.5, -0.5, -0.5));
 
     painter.setRenderHint(QPainter::Antialiasing, false);
     auto stroke = [&](const Layout::Segment& s, const QColor& color) {
         painter.setPen(QPen(color, 1));
-        painter.drawLine(Px(s.x1), Px(s.y1), Px(s.x2), Px(s.y2));
+        painter.drawLine(px(s.x1), px(s.y1), px(s.x2), px(s.y2));
     };
     stroke(Layout::Line4, palette().color(QPalette::Dark));
     stroke(Layout::Line3, Qt::white);
@@ -392,7 +392,7 @@ void Form1::paintEvent(QPaintEvent*)
 // Totals grow over many games; a long one steps its font down rather than lose digits.
 void Form1::fitTotal(QLabel* total)
 {
-    QFont font = ArialFont(14.25, true);
+    QFont font = arialFont(14.25, true);
     const int room = total->contentsRect().width() - 2;
     while (font.pointSizeF() > 6 && QFontMetrics(font).horizontalAdvance(total->text()) > room)
         font.setPointSizeF(font.pointSizeF() - 0.75);
@@ -401,72 +401,72 @@ void Form1::fitTotal(QLabel* total)
 
 // GameScreen: what the game needs of the window.
 
-std::string Form1::potTag(int16_t Index) const
+std::string Form1::potTag(int16_t index) const
 {
-    if (!isSlot(Index))
+    if (!isSlot(index))
         return {};
-    return Pots[Index]->Tag().toStdString();
+    return Pots[index]->Tag().toStdString();
 }
 
-void Form1::setPotEnabled(int16_t Slot, bool Enabled)
+void Form1::setPotEnabled(int16_t slot, bool enabled)
 {
-    if (isSlot(Slot))
-        Pots[Slot]->enabled(Enabled);
+    if (isSlot(slot))
+        Pots[slot]->enabled(enabled);
 }
 
-void Form1::setMessCaption(const std::string& Caption)
+void Form1::setMessCaption(const std::string& caption)
 {
-    Mess->caption(FromStd(Caption));
+    Mess->caption(fromStd(caption));
     Mess->setAccessibleName(Mess->caption());
 }
-void Form1::setMessEnabled(bool Enabled)
+void Form1::setMessEnabled(bool enabled)
 {
-    Mess->enabled(Enabled);
+    Mess->enabled(enabled);
 }
 void Form1::showMess()
 {
     Mess->Visible(true);
 }
-void Form1::setUndoxEnabled(bool Enabled)
+void Form1::setUndoxEnabled(bool enabled)
 {
-    Undox->enabled(Enabled);
+    Undox->enabled(enabled);
 }
-void Form1::setCommandFrameEnabled(bool Enabled)
+void Form1::setCommandFrameEnabled(bool enabled)
 {
-    CommandFrame->setEnabled(Enabled);
+    CommandFrame->setEnabled(enabled);
 }
-void Form1::setPausexCaption(const std::string& Caption)
+void Form1::setPausexCaption(const std::string& caption)
 {
-    Pausex->caption(FromStd(Caption));
+    Pausex->caption(fromStd(caption));
     describeButton(Pausex);
 }
-void Form1::setStartBeadsEnabled(bool Enabled)
+void Form1::setStartBeadsEnabled(bool enabled)
 {
-    StartBeads->setEnabled(Enabled);
+    StartBeads->setEnabled(enabled);
 }
 int16_t Form1::startBeadsValue() const
 {
     return static_cast<int16_t>(StartBeads->value());
 }
-void Form1::setStartBeadsValue(int16_t Value)
+void Form1::setStartBeadsValue(int16_t value)
 {
-    StartBeads->setValue(Value);
+    StartBeads->setValue(value);
 }
-void Form1::setLabel2Caption(const std::string& Caption)
+void Form1::setLabel2Caption(const std::string& caption)
 {
-    Label2->setText(FromStd(Caption));
+    Label2->setText(fromStd(caption));
 }
-void Form1::setHandLeft(float Left)
+void Form1::setHandLeft(float left)
 {
-    Hand->Left(Left);
+    Hand->Left(left);
 }
-void Form1::setHandTop(float Top)
+void Form1::setHandTop(float top)
 {
-    Hand->Top(Top);
+    Hand->Top(top);
 }
-void Form1::setHandVisible(bool Visible)
+void Form1::setHandVisible(bool visible)
 {
-    Hand->Visible(Visible);
+    Hand->Visible(visible);
 }
 bool Form1::handVisible() const
 {
@@ -474,9 +474,9 @@ bool Form1::handVisible() const
 }
 
 // The letters never move: their places in the table are their places on the screen.
-float Form1::potNameLeft(int16_t Index) const
+float Form1::potNameLeft(int16_t index) const
 {
-    return Index >= 0 && Index < 6 ? static_cast<float>(Layout::PotNameLeft[Index]) : 0.f;
+    return index >= 0 && index < 6 ? static_cast<float>(Layout::PotNameLeft[index]) : 0.f;
 }
 
 float Form1::potNameTop(int16_t) const
@@ -484,12 +484,12 @@ float Form1::potNameTop(int16_t) const
     return static_cast<float>(Layout::PotNameTop);
 }
 
-void Form1::setTotalBCaption(int16_t Index, const std::string& Caption)
+void Form1::setTotalBCaption(int16_t index, const std::string& caption)
 {
-    if (Index == 1 || Index == 2) {
-        TotalB[Index]->setText(FromStd(Caption));
-        fitTotal(TotalB[Index]);
-        describeTotal(Index);
+    if (index == 1 || index == 2) {
+        TotalB[index]->setText(fromStd(caption));
+        fitTotal(TotalB[index]);
+        describeTotal(index);
     }
 }
 
@@ -501,8 +501,8 @@ void Form1::setUpMovesList()
 void Form1::movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
                              int32_t& ItemColor)
 {
-    QString text = FromStd(s);
-    QString font = FromStd(ItemFont);
+    QString text = fromStd(s);
+    QString font = fromStd(ItemFont);
     try {
         MovesList->Additem(text, itemx, ipic, font, ItemColor);
     } catch (const ListError&) {
@@ -514,7 +514,7 @@ void Form1::movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::
 
 void Form1::movesListAdditem(std::string& s, int16_t itemx)
 {
-    QString text = FromStd(s);
+    QString text = fromStd(s);
     try {
         MovesList->Additem(text, itemx);
     } catch (const ListError&) {
@@ -526,13 +526,13 @@ void Form1::movesListClear()
 {
     MovesList->Clear();
 }
-void Form1::scoreWin(bool Value)
+void Form1::scoreWin(bool value)
 {
-    Score1->ScoreWin(Value);
+    Score1->ScoreWin(value);
 }
-void Form1::scoreDraw(bool Value)
+void Form1::scoreDraw(bool value)
 {
-    Score1->ScoreDraw(Value);
+    Score1->ScoreDraw(value);
 }
 
 // The pause sleeps on the event queue rather than spinning a core.

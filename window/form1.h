@@ -40,32 +40,32 @@ public:
     // GameScreen
     void DrawPot(int16_t Pot, const std::string& Text) override;
     void DrawPotHot(int16_t Pot, const std::string& Text) override;
-    std::string potTag(int16_t Index) const override;
-    void setPotEnabled(int16_t Slot, bool Enabled) override;
-    void setMessCaption(const std::string& Caption) override;
-    void setMessEnabled(bool Enabled) override;
+    std::string potTag(int16_t index) const override;
+    void setPotEnabled(int16_t slot, bool enabled) override;
+    void setMessCaption(const std::string& caption) override;
+    void setMessEnabled(bool enabled) override;
     void showMess() override;
-    void setUndoxEnabled(bool Enabled) override;
-    void setCommandFrameEnabled(bool Enabled) override;
-    void setPausexCaption(const std::string& Caption) override;
-    void setStartBeadsEnabled(bool Enabled) override;
+    void setUndoxEnabled(bool enabled) override;
+    void setCommandFrameEnabled(bool enabled) override;
+    void setPausexCaption(const std::string& caption) override;
+    void setStartBeadsEnabled(bool enabled) override;
     int16_t startBeadsValue() const override;
-    void setStartBeadsValue(int16_t Value) override;
-    void setLabel2Caption(const std::string& Caption) override;
-    void setHandLeft(float Left) override;
-    void setHandTop(float Top) override;
-    void setHandVisible(bool Visible) override;
+    void setStartBeadsValue(int16_t value) override;
+    void setLabel2Caption(const std::string& caption) override;
+    void setHandLeft(float left) override;
+    void setHandTop(float top) override;
+    void setHandVisible(bool visible) override;
     bool handVisible() const override;
-    float potNameLeft(int16_t Index) const override;
-    float potNameTop(int16_t Index) const override;
-    void setTotalBCaption(int16_t Index, const std::string& Caption) override;
+    float potNameLeft(int16_t index) const override;
+    float potNameTop(int16_t index) const override;
+    void setTotalBCaption(int16_t index, const std::string& caption) override;
     void setUpMovesList() override;
     void movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
                           int32_t& ItemColor) override;
     void movesListAdditem(std::string& s, int16_t itemx) override;
     void movesListClear() override;
-    void scoreWin(bool Value) override;
-    void scoreDraw(bool Value) override;
+    void scoreWin(bool value) override;
+    void scoreDraw(bool value) override;
     void runPendingEvents() override;
 
     // Command panel: the commands that do not touch the game

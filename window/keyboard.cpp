@@ -21,7 +21,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
         return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     const int16_t before = m_game.state().KeyboardPot;
-    m_game.Form_KeyDown(KeyNumber(*key), 0);
+    m_game.Form_KeyDown(keyNumber(*key), 0);
     if (m_game.state().KeyboardPot != before)
         announceKeyboardPot();
     return false;

@@ -6,10 +6,10 @@
 
 namespace {
 
-int16_t NumberOf(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+int16_t numberOf(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QKeyEvent press(QEvent::KeyPress, qtKey, modifiers);
-    return KeyNumber(press);
+    return keyNumber(press);
 }
 
 } // namespace
@@ -24,7 +24,7 @@ TEST(KeyNumbers, EveryNumberATraceCanPressComesBackAsItself)
         if (key == 0)
             continue;
         ++pressable;
-        EXPECT_EQ(NumberOf(key), code) << "code " << code;
+        EXPECT_EQ(numberOf(key), code) << "code " << code;
     }
     // Letters, digits, function keys and the named keys, at least.
     EXPECT_GT(pressable, 26 + 10 + 12 + 20);
@@ -32,21 +32,21 @@ TEST(KeyNumbers, EveryNumberATraceCanPressComesBackAsItself)
 
 TEST(KeyNumbers, TheNumberPadAndTheShiftedTabHaveTheirOwnReading)
 {
-    EXPECT_EQ(NumberOf(Qt::Key_Enter, Qt::KeypadModifier), key::Return);
-    EXPECT_EQ(NumberOf(Qt::Key_Return), key::Return);
-    EXPECT_EQ(NumberOf(Qt::Key_5, Qt::KeypadModifier), 101);
-    EXPECT_EQ(NumberOf(Qt::Key_5), 53);
-    EXPECT_EQ(NumberOf(Qt::Key_Backtab, Qt::ShiftModifier), 9);
-    EXPECT_EQ(NumberOf(Qt::Key_A, Qt::ShiftModifier), 65);
-    EXPECT_EQ(NumberOf(Qt::Key_Up), key::Up);
-    EXPECT_EQ(NumberOf(Qt::Key_F1), 112);
-    EXPECT_EQ(NumberOf(Qt::Key_VolumeUp), 0);
+    EXPECT_EQ(numberOf(Qt::Key_Enter, Qt::KeypadModifier), key::Return);
+    EXPECT_EQ(numberOf(Qt::Key_Return), key::Return);
+    EXPECT_EQ(numberOf(Qt::Key_5, Qt::KeypadModifier), 101);
+    EXPECT_EQ(numberOf(Qt::Key_5), 53);
+    EXPECT_EQ(numberOf(Qt::Key_Backtab, Qt::ShiftModifier), 9);
+    EXPECT_EQ(numberOf(Qt::Key_A, Qt::ShiftModifier), 65);
+    EXPECT_EQ(numberOf(Qt::Key_Up), key::Up);
+    EXPECT_EQ(numberOf(Qt::Key_F1), 112);
+    EXPECT_EQ(numberOf(Qt::Key_VolumeUp), 0);
 }
 
 TEST(KeyNumbers, WhatAKeyTypesIsItsCharacterOrNothing)
 {
     const QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, QStringLiteral("A"));
-    EXPECT_EQ(KeyAscii(letter), std::optional<int16_t>(65));
+    EXPECT_EQ(keyAscii(letter), std::optional<int16_t>(65));
     const QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-    EXPECT_EQ(KeyAscii(arrow), std::nullopt);
+    EXPECT_EQ(keyAscii(arrow), std::nullopt);
 }

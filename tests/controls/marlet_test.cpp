@@ -35,7 +35,7 @@ protected:
     {
         Score1->ScoreShow(true);
         Score1->Visible(true);
-        Score1->ZOrder(0);
+        Score1->zOrder(0);
     }
 
     QString shown(const char* name) const
@@ -110,7 +110,7 @@ TEST(MarletRecord, OutlivesTheBoardOnlyWhenKept)
     const QByteArray oldConfig = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-    Marlets::Marlet::KeepRecords(true);
+    Marlets::Marlet::keepRecords(true);
     {
         Marlets::Marlet first;
         first.ScoreTitle(QStringLiteral("Tavok"));
@@ -124,7 +124,7 @@ TEST(MarletRecord, OutlivesTheBoardOnlyWhenKept)
     other.ScoreTitle(QStringLiteral("Another game"));
     EXPECT_EQ(record(other), (std::array{0, 0, 0}));
 
-    Marlets::Marlet::KeepRecords(false);
+    Marlets::Marlet::keepRecords(false);
     Marlets::Marlet unkept;
     unkept.ScoreTitle(QStringLiteral("Tavok"));
     EXPECT_EQ(record(unkept), (std::array{0, 0, 0}))

@@ -16,7 +16,7 @@ const QColor Face(212, 208, 200), TopEdge(255, 255, 255), LeftEdge(250, 250, 0),
 struct Pot : Quillet {
     explicit Pot(QWidget* parent = nullptr) : Quillet(parent)
     {
-        Move(0, 0, 555, 555);
+        place(0, 0, 555, 555);
         backcolor(Face);
         bordertop(TopEdge);
         borderleft(LeftEdge);
@@ -117,7 +117,7 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
     EXPECT_EQ(hand.picture().cacheKey(), pot.picture().cacheKey());
     EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
 
-    pot.Move(0, 0, 555, 555);
+    pot.place(0, 0, 555, 555);
     pot.picture(framedInClear(64, 0));
     const int across = blueAcrossTheMiddle(rendered(pot));
     EXPECT_GE(across, pot.width() - 2);
@@ -129,7 +129,7 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
 TEST(QuilletPlace, TwipsInAndTheSameTwipsOut)
 {
     Pot pot;
-    pot.Move(1530, 1785, 555, 555);
+    pot.place(1530, 1785, 555, 555);
     EXPECT_EQ(pot.geometry(), Twips::toPixels(1530, 1785, 555, 555));
     pot.Left(1642);
     pot.Top(1075);

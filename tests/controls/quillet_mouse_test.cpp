@@ -42,8 +42,8 @@ protected:
     {
         surface.setMouseTracking(true);
         surface.resize(200, 100);
-        left->Move(300, 300, 555, 555);
-        right->Move(1200, 300, 555, 555);
+        left->place(300, 300, 555, 555);
+        right->place(1200, 300, 555, 555);
         record(left, leftRaised);
         record(right, rightRaised);
         surface.show();
@@ -162,7 +162,7 @@ TEST_F(QuilletMouse, AFaceThatIsOffRaisesNothing)
     auto* frame = new QWidget(&surface);
     frame->setGeometry(0, 60, 100, 40);
     auto* inner = new Quillet(frame);
-    inner->Move(150, 150, 555, 300);
+    inner->place(150, 150, 555, 300);
     std::vector<Raised> innerRaised;
     record(inner, innerRaised);
     frame->show();

@@ -30,7 +30,7 @@ TEST_F(AtRatioTwo, APotShowsItsDiscPixelForPixel)
     QWidget surface;
     surface.resize(100, 100);
     auto* pot = new Quillet(&surface);
-    pot->Move(0, 0, 555, 555);
+    pot->place(0, 0, 555, 555);
     const QPixmap disc = Pictures::load(Pictures::DiscGreenRaised);
     pot->picture(disc);
     surface.show();

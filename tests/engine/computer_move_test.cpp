@@ -112,19 +112,19 @@ TEST_F(ComputerMove, AgreesWithThePlainReadingOfTheRulesOnRandomBoards)
         for (int s = 0; s < 14; ++s)
             b[s] =
                 (s == 6 || s == 13) ? bank(random) : (random() % 3 == 0 ? 0 : laps * count(random));
-        if (ref::Choose(b) < 0)
+        if (ref::choose(b) < 0)
             b[7 + random() % 6] = 1 + count(random);
         for (int s = 0; s < 14; ++s)
             state.Beads[s] = static_cast<int16_t>(b[s]);
         state.SavedBeads = state.Beads;
         for (int16_t p = 7; p <= 12; ++p) {
             if (b[p] > 0) {
-                ASSERT_EQ(game.evaluatePot(p), ref::Score(b, p)) << "round " << round;
+                ASSERT_EQ(game.evaluatePot(p), ref::score(b, p)) << "round " << round;
             }
         }
         ASSERT_EQ(state.Beads, state.SavedBeads);
         game.ComputerMove();
-        ref::ComputerTurn(b);
+        ref::computerTurn(b);
         for (int s = 0; s < 14; ++s)
             ASSERT_EQ(state.Beads[s], b[s]) << "round " << round << " slot " << s;
     }

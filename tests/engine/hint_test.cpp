@@ -3,7 +3,7 @@
 
 namespace {
 
-ref::Ring ToRing(const Board& board)
+ref::Ring toRing(const Board& board)
 {
     ref::Ring ring{};
     std::copy(board.begin(), board.end(), ring.begin());
@@ -11,11 +11,11 @@ ref::Ring ToRing(const Board& board)
 }
 
 // The human's whole turn played by the computer's rules on the turned board.
-ref::Ring AdvisedPosition(const Board& board)
+ref::Ring advisedPosition(const Board& board)
 {
-    ref::Ring b = ref::Turned(ToRing(board));
-    ref::ComputerTurn(b);
-    return ref::Turned(b);
+    ref::Ring b = ref::turned(toRing(board));
+    ref::computerTurn(b);
+    return ref::turned(b);
 }
 
 } // namespace
@@ -67,7 +67,7 @@ TEST_F(Hint, AChainShowsItsEndButListsAndPointsAtItsFirstMove)
 {
     const char* start = "0 0 0 3 0 1 |0| 3 3 3 3 3 3 |0";
     setBoard(start);
-    const ref::Ring shown = AdvisedPosition(state.Beads);
+    const ref::Ring shown = advisedPosition(state.Beads);
     state.PauseAtMoves = true;
     hintDown();
 

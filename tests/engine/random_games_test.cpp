@@ -38,13 +38,13 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
                 highBank = expected[13];
             } else if (kind == 2) {
                 game.TakeComp_Click();
-                ref::ForcedTurn(expected);
+                ref::forcedTurn(expected);
             } else {
                 const int16_t pot = static_cast<int16_t>(random() % 6);
                 if (expected[pot] == 0)
                     continue;
                 game.Pots_MouseUp(pot, 1, 0, 0, 0);
-                ref::PlayerMove(expected, pot);
+                ref::playerMove(expected, pot);
             }
             for (int s = 0; s < SlotCount; ++s)
                 ASSERT_EQ(state.Beads[s], expected[s]) << "game " << g << " slot " << s;
@@ -59,7 +59,7 @@ TEST(RandomGames, FollowTheRulesAndKeepTheInvariants)
             ASSERT_FALSE(state.HintActive);
             ASSERT_EQ(state.WaitingForClick, 0);
         }
-        ASSERT_EQ(ref::Live(expected), false);
+        ASSERT_EQ(ref::live(expected), false);
         game.Mess_Click();
     }
 }

@@ -11,14 +11,14 @@
 
 namespace {
 
-[[noreturn]] void Fail(const char* what, const QString& detail = {})
+[[noreturn]] void fail(const char* what, const QString& detail = {})
 {
     std::fprintf(stderr, "%s %s\n", what, qPrintable(detail));
     std::abort();
 }
 
 // A Single or Double read from stray bytes may be NaN, which is not equal to itself.
-bool SameValue(const PropertyEntry& a, const PropertyEntry& b)
+bool sameValue(const PropertyEntry& a, const PropertyEntry& b)
 {
     if (a.value.isNumber() && b.value.isNumber() && std::isnan(a.value.toNumber()))
         return std::isnan(b.value.toNumber());
@@ -27,26 +27,26 @@ bool SameValue(const PropertyEntry& a, const PropertyEntry& b)
 
 // The writer stores keys in lower case, as the block is meant to hold them; a block
 // from elsewhere may not have, so the first reading is compared lowered.
-void CheckSame(const PropertyBag& first, const PropertyBag& second)
+void checkSame(const PropertyBag& first, const PropertyBag& second)
 {
     if (first.entries().size() != second.entries().size())
-        Fail("the second reading has another number of entries");
+        fail("the second reading has another number of entries");
     for (size_t i = 0; i < first.entries().size(); ++i) {
         const PropertyEntry& a = first.entries()[i];
         const PropertyEntry& b = second.entries()[i];
         if (a.key.toLower() != b.key || a.type != b.type || a.hash != b.hash)
-            Fail("the second reading differs in the key, type or hash of", a.key);
-        if (!SameValue(a, b) || a.objectData != b.objectData)
-            Fail("the second reading differs in the value of", a.key);
+            fail("the second reading differs in the key, type or hash of", a.key);
+        if (!sameValue(a, b) || a.objectData != b.objectData)
+            fail("the second reading differs in the value of", a.key);
     }
 }
 
-PropertyBag ReadAgain(const QByteArray& block)
+PropertyBag readAgain(const QByteArray& block)
 {
     try {
-        return lbblock::Read(block);
+        return lbblock::read(block);
     } catch (const ListError& e) {
-        Fail("a block we wrote is refused:", QString::fromUtf8(e.what()));
+        fail("a block we wrote is refused:", QString::fromUtf8(e.what()));
     }
 }
 
@@ -60,16 +60,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     PropertyBag first;
     try {
-        first = lbblock::Read(block);
+        first = lbblock::read(block);
     } catch (const ListError& e) {
         if (e.code() != ListErrorCode::InvalidFileFormat)
-            Fail("a refused block gives another code than 321:", QString::fromUtf8(e.what()));
+            fail("a refused block gives another code than 321:", QString::fromUtf8(e.what()));
         return 0;
     }
-    const QByteArray written = lbblock::Write(first);
-    CheckSame(first, ReadAgain(written));
+    const QByteArray written = lbblock::write(first);
+    checkSame(first, readAgain(written));
     // What we write we write the same way twice.
-    if (lbblock::Write(ReadAgain(written)) != written)
-        Fail("writing the second reading gives other bytes");
+    if (lbblock::write(readAgain(written)) != written)
+        fail("writing the second reading gives other bytes");
     return 0;
 }

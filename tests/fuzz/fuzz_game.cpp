@@ -26,20 +26,20 @@ public:
         screen.onPendingEvents = [this] { whilePaused(); };
         screen.onStartBeadsChange = [this] { game.StartBeads_Change(); };
         game.Form_Load();
-        Settle();
+        settle();
     }
 
-    void Play()
+    void play()
     {
         for (int n = 0; n < MaxActions && !in.done(); ++n) {
             const Board before = state.Beads;
-            Act(in.pick(12));
-            Check(before);
+            act(in.pick(12));
+            check(before);
         }
     }
 
 private:
-    [[noreturn]] void Fail(const std::string& what) const
+    [[noreturn]] void fail(const std::string& what) const
     {
         std::fprintf(stderr, "%s after action %d: board %s, start %d\n", what.c_str(), actions,
                      formatBoard(state.Beads).c_str(), state.StartBeadCount);
@@ -47,16 +47,16 @@ private:
     }
 
     // The window lets a pot event through only from an enabled pot; the banks never are.
-    bool TakesEvents(int16_t s) const
+    bool takesEvents(int16_t s) const
     {
         if (isBank(s))
             return false;
         return isHumanPot(s) ? screen.potEnabled[s] : !state.GameFinished;
     }
 
-    bool Idle() const { return !game.busy() && !state.GameFinished && !state.PreviewActive; }
+    bool idle() const { return !game.busy() && !state.GameFinished && !state.PreviewActive; }
 
-    void Act(int kind)
+    void act(int kind)
     {
         ++actions;
         relaid = false;
@@ -65,15 +65,15 @@ private:
         switch (kind) {
         case 0: {
             const auto s = static_cast<int16_t>(in.pick(SlotCount));
-            if (!TakesEvents(s))
+            if (!takesEvents(s))
                 return;
-            if (Idle() && isHumanPot(s) && state.Beads[s] > 0)
+            if (idle() && isHumanPot(s) && state.Beads[s] > 0)
                 expectPlay = s;
             return game.Pots_MouseUp(s, 1, 0, 0, 0);
         }
         case 1: {
             const auto s = static_cast<int16_t>(in.pick(SlotCount));
-            if (!TakesEvents(s))
+            if (!takesEvents(s))
                 return;
             game.Pots_MouseDown(s, 2, 0, 0, 0);
             return game.Pots_MouseUp(s, 2, 0, 0, 0);
@@ -89,7 +89,7 @@ private:
             relaid = !game.busy() && !state.GameFinished;
             return game.Undox_Click();
         case 4:
-            expectForcedTurn = Idle() && screen.commandFrameEnabled;
+            expectForcedTurn = idle() && screen.commandFrameEnabled;
             return game.TakeComp_Click();
         case 5:
             if (!state.HintActive)
@@ -104,11 +104,11 @@ private:
         case 8:
             return game.Form_KeyDown(in.word(), static_cast<int16_t>(in.pick(8)));
         case 9:
-            if (Idle() && isHumanPot(state.KeyboardPot) && state.Beads[state.KeyboardPot] > 0)
+            if (idle() && isHumanPot(state.KeyboardPot) && state.Beads[state.KeyboardPot] > 0)
                 expectPlay = state.KeyboardPot;
             return game.Form_KeyDown(KeyEnter, 0);
         case 10:
-            return MoveSlider(static_cast<int16_t>(2 + in.pick(98)));
+            return moveSlider(static_cast<int16_t>(2 + in.pick(98)));
         default:
             if (!screen.messEnabled)
                 return;
@@ -118,7 +118,7 @@ private:
     }
 
     // The slider holds still under a running move; the game puts it back.
-    void MoveSlider(int16_t value)
+    void moveSlider(int16_t value)
     {
         if (!screen.startBeadsEnabled)
             return;
@@ -152,25 +152,25 @@ private:
         const auto outer = std::tuple(expectPlay, expectForcedTurn, relaid, hintFrom);
         paused = true;
         const Board before = state.Beads;
-        Act(in.pick(12));
+        act(in.pick(12));
         paused = false;
         std::tie(expectPlay, expectForcedTurn, relaid, hintFrom) = outer;
         // No bead count here: a capture is told between crediting the bank and clearing
         // the two pots, so a pause can hold a board with the captured beads counted twice.
         if (state.Beads != before)
-            Fail("an event inside the computer's move changed the board");
+            fail("an event inside the computer's move changed the board");
     }
 
-    void CheckBeads() const
+    void checkBeads() const
     {
         for (const int16_t count : state.Beads)
             if (count < 0)
-                Fail("a negative count");
+                fail("a negative count");
         if (std::accumulate(state.Beads.begin(), state.Beads.end(), 0) != 12 * state.StartBeadCount)
-            Fail("beads came or went");
+            fail("beads came or went");
     }
 
-    static bool RowEmpty(const Board& b, int first)
+    static bool rowEmpty(const Board& b, int first)
     {
         for (int s = first; s < first + 6; ++s)
             if (b[s] > 0)
@@ -178,66 +178,66 @@ private:
         return true;
     }
 
-    static ref::Ring ToRing(const Board& b)
+    static ref::Ring toRing(const Board& b)
     {
         ref::Ring r{};
         std::copy(b.begin(), b.end(), r.begin());
         return r;
     }
 
-    void CheckAgainstRules(const Board& before) const
+    void checkAgainstRules(const Board& before) const
     {
-        ref::Ring expected = ToRing(before);
+        ref::Ring expected = toRing(before);
         if (expectPlay >= 0) {
-            ref::PlayerMove(expected, expectPlay);
+            ref::playerMove(expected, expectPlay);
         } else if (expectForcedTurn) {
-            ref::ForcedTurn(expected);
+            ref::forcedTurn(expected);
         } else {
             return;
         }
-        if (expected != ToRing(state.Beads))
-            Fail("the move does not follow the rules from " + formatBoard(before));
+        if (expected != toRing(state.Beads))
+            fail("the move does not follow the rules from " + formatBoard(before));
     }
 
-    void Check(const Board& before)
+    void check(const Board& before)
     {
-        CheckBeads();
+        checkBeads();
         if (state.WaitingForClick != 0)
-            Fail("a pause still waits after its handler returned");
+            fail("a pause still waits after its handler returned");
         if (state.HintActive) {
             if (!state.BoardMirrored)
-                Fail("a held hint without the turned board");
+                fail("a held hint without the turned board");
             return;
         }
         if (state.BoardMirrored)
-            Fail("the board stays turned");
+            fail("the board stays turned");
         if (hintFrom && state.Beads != *hintFrom)
-            Fail("the hint's release did not put the board back");
+            fail("the hint's release did not put the board back");
         hintFrom.reset();
-        CheckAgainstRules(before);
-        CheckBanks();
-        const bool over = RowEmpty(state.Beads, 0) || RowEmpty(state.Beads, 7);
+        checkAgainstRules(before);
+        checkBanks();
+        const bool over = rowEmpty(state.Beads, 0) || rowEmpty(state.Beads, 7);
         if (!state.GameFinished)
             freshBoardAfterEnd = false;
         if (state.GameFinished != over && !freshBoardAfterEnd)
-            Fail(state.GameFinished ? "a game over with beads on both rows"
+            fail(state.GameFinished ? "a game over with beads on both rows"
                                     : "a row is empty and the game goes on");
         if (screen.messEnabled != state.GameFinished)
-            Fail("the message bar takes clicks outside a pause and a game's end");
+            fail("the message bar takes clicks outside a pause and a game's end");
         if (state.RunningTotals[1] < 0 || state.RunningTotals[2] < 0)
-            Fail("a negative running total");
+            fail("a negative running total");
     }
 
     // Banks only grow; undo, a restart and the slider lay down a board of their own.
-    void CheckBanks()
+    void checkBanks()
     {
         if (!relaid && (state.Beads[HumanBank] < banks[0] || state.Beads[ComputerBank] < banks[1]))
-            Fail("a bank lost beads");
+            fail("a bank lost beads");
         relaid = false;
         banks = {state.Beads[HumanBank], state.Beads[ComputerBank]};
     }
 
-    void Settle() { banks = {state.Beads[HumanBank], state.Beads[ComputerBank]}; }
+    void settle() { banks = {state.Beads[HumanBank], state.Beads[ComputerBank]}; }
 
     FuzzInput& in;
     RecordingScreen screen;
@@ -258,6 +258,6 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     FuzzInput in(data, size);
-    GameRun(in).Play();
+    GameRun(in).play();
     return 0;
 }

@@ -26,26 +26,26 @@ constexpr std::array<char16_t, 8> Awkward{0x0131, 0x017F, 0x00DF, 0x0130,
 
 // Printable ASCII stands for itself and bytes from 0x80 are Latin-1, so that a corpus
 // file reads as the pattern it holds.
-QChar CharOf(uint8_t b)
+QChar charOf(uint8_t b)
 {
     if (b < 0x20)
         return QChar(Awkward[b % Awkward.size()]);
     return QChar(char16_t(b));
 }
 
-QString ReadText(FuzzInput& in)
+QString readText(FuzzInput& in)
 {
     QString text;
     while (!in.done() && text.size() < MaxLength) {
         const uint8_t b = in.byte();
         if (b == '\n')
             break;
-        text += CharOf(b);
+        text += charOf(b);
     }
     return text;
 }
 
-std::optional<bool> Matches(const QString& pattern, const QString& subject, bool upperCase)
+std::optional<bool> matches(const QString& pattern, const QString& subject, bool upperCase)
 {
     try {
         return LikePattern(pattern).matches(subject, upperCase);
@@ -58,22 +58,22 @@ std::optional<bool> Matches(const QString& pattern, const QString& subject, bool
     }
 }
 
-QString Shown(const std::optional<bool>& result)
+QString shown(const std::optional<bool>& result)
 {
     return result ? (*result ? "match" : "no match") : "malformed";
 }
 
-void Agree(const QString& pattern, const QString& subject, bool upperCase)
+void agree(const QString& pattern, const QString& subject, bool upperCase)
 {
-    const QString p = upperCase ? LikePattern::UpperCase(pattern) : pattern;
-    const QString s = upperCase ? LikePattern::UpperCase(subject) : subject;
-    const std::optional<bool> expected = ReferenceMatcher::Match(p, s);
-    const std::optional<bool> actual = Matches(p, subject, upperCase);
+    const QString p = upperCase ? LikePattern::upperCase(pattern) : pattern;
+    const QString s = upperCase ? LikePattern::upperCase(subject) : subject;
+    const std::optional<bool> expected = ReferenceMatcher::match(p, s);
+    const std::optional<bool> actual = matches(p, subject, upperCase);
     if (actual == expected)
         return;
     std::fprintf(stderr, "pattern \"%s\" on \"%s\"%s: %s, the reference says %s\n",
                  qPrintable(pattern), qPrintable(subject), upperCase ? " (case not counting)" : "",
-                 qPrintable(Shown(actual)), qPrintable(Shown(expected)));
+                 qPrintable(shown(actual)), qPrintable(shown(expected)));
     std::abort();
 }
 
@@ -82,9 +82,9 @@ void Agree(const QString& pattern, const QString& subject, bool upperCase)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     FuzzInput in(data, size);
-    const QString pattern = ReadText(in);
-    const QString subject = ReadText(in);
-    Agree(pattern, subject, false);
-    Agree(pattern, subject, true);
+    const QString pattern = readText(in);
+    const QString subject = readText(in);
+    agree(pattern, subject, false);
+    agree(pattern, subject, true);
     return 0;
 }

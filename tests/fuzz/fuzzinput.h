@@ -7,16 +7,16 @@
 // short input still makes a whole, if dull, run.
 class FuzzInput {
 public:
-    FuzzInput(const uint8_t* data, size_t size) : data(data), size(size) {}
+    FuzzInput(const uint8_t* data, size_t size) : m_data(data), m_size(size) {}
 
-    bool done() const { return at >= size; }
-    uint8_t byte() { return at < size ? data[at++] : 0; }
+    bool done() const { return m_at >= m_size; }
+    uint8_t byte() { return m_at < m_size ? m_data[m_at++] : 0; }
     // A number from 0 to count - 1.
     int pick(int count) { return byte() % count; }
     int16_t word() { return static_cast<int16_t>(byte() | byte() << 8); }
 
 private:
-    const uint8_t* data;
-    size_t size;
-    size_t at = 0;
+    const uint8_t* m_data;
+    size_t m_size;
+    size_t m_at = 0;
 };

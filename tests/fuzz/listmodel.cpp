@@ -14,20 +14,20 @@ constexpr int InvalidPropertyValue = 380;
 
 } // namespace
 
-QString ListModel::Number(long long n)
+QString ListModel::number(long long n)
 {
     return n < 0 ? QString::number(n) : QLatin1Char(' ') + QString::number(n);
 }
 
-QString ListModel::Record(const Item& item)
+QString ListModel::record(const Item& item)
 {
-    return QStringList{item.text, item.data,           Number(item.ipic),
-                       item.font, Number(item.colour), item.width}
+    return QStringList{item.text, item.data,           number(item.ipic),
+                       item.font, number(item.colour), item.width}
         .join(QLatin1Char('\t'));
 }
 
 // Halves go to the even neighbour, as everywhere in the list.
-int ListModel::IndexOf(double it) const
+int ListModel::indexOf(double it) const
 {
     const double n = std::nearbyint(it);
     return n >= 0 && n < double(items.size()) ? int(n) : -1;
@@ -38,9 +38,9 @@ int ListModel::Additem(const QString& s, int itemx, int& ipic, const QString& fo
     if (!font.isEmpty())
         fontName = font;
     if (fontName.isEmpty() && items.empty())
-        fontName = surfaceFont;
+        fontName = m_surfaceFont;
     if (colour == -1 && items.empty())
-        colour = surfaceColour;
+        colour = m_surfaceColour;
     // Picture and colour come from the last item, wherever the new one goes.
     if (ipic <= 0 && !items.empty())
         ipic = items.back().ipic;
@@ -71,7 +71,7 @@ int ListModel::RemoveItem(std::optional<double> it)
 {
     if (!it)
         return TypeMismatch;
-    const int n = IndexOf(*it);
+    const int n = indexOf(*it);
     if (n < 0)
         return 0;
     items.erase(items.begin() + n);
@@ -86,21 +86,21 @@ int ListModel::SetItemData(std::optional<double> it, std::optional<double> value
 {
     if (!it)
         return TypeMismatch;
-    const int n = IndexOf(*it == -1 ? lastAdded : *it);
+    const int n = indexOf(*it == -1 ? lastAdded : *it);
     if (n < 0)
         return 0;
     if (!value)
         return TypeMismatch;
-    items[size_t(n)].data = Number(std::llround(*value));
+    items[size_t(n)].data = number(std::llround(*value));
     return 0;
 }
 
-int ListModel::Update(std::optional<double> it, int column, const QString& text,
+int ListModel::update(std::optional<double> it, int column, const QString& text,
                       std::optional<double> value)
 {
     if (!it)
         return TypeMismatch;
-    const int n = IndexOf(*it);
+    const int n = indexOf(*it);
     if (n < 0)
         return 0;
     Item& item = items[size_t(n)];
@@ -111,7 +111,7 @@ int ListModel::Update(std::optional<double> it, int column, const QString& text,
     if (!value)
         return TypeMismatch;
     if (column == 1)
-        item.data = Number(std::llround(*value));
+        item.data = number(std::llround(*value));
     else if (column == 2)
         item.ipic = int(std::llround(*value));
     else
@@ -120,10 +120,10 @@ int ListModel::Update(std::optional<double> it, int column, const QString& text,
 }
 
 // Whole records compare as binary text; equal records are the same in every column.
-void ListModel::Sort(bool ascending)
+void ListModel::sort(bool ascending)
 {
     std::sort(items.begin(), items.end(), [ascending](const Item& a, const Item& b) {
-        return ascending ? Record(a) < Record(b) : Record(b) < Record(a);
+        return ascending ? record(a) < record(b) : record(b) < record(a);
     });
 }
 
@@ -136,14 +136,14 @@ std::optional<int> ListModel::Find(int sdir, int it, const QString& pattern, int
     if (start < 1 || start > count)
         return std::nullopt;
     const bool caseCounts = casen == 1;
-    const QString p = caseCounts ? pattern : LikePattern::UpperCase(pattern);
-    if (!ReferenceMatcher::Match(p, QString())) {
+    const QString p = caseCounts ? pattern : LikePattern::upperCase(pattern);
+    if (!ReferenceMatcher::match(p, QString())) {
         error = 93;
         return std::nullopt;
     }
     auto matches = [&](int number) {
         const QString& text = items[size_t(number - 1)].text;
-        return *ReferenceMatcher::Match(p, caseCounts ? text : LikePattern::UpperCase(text));
+        return *ReferenceMatcher::match(p, caseCounts ? text : LikePattern::upperCase(text));
     };
     if (sdir == 1) {
         for (int n = count; n >= start; --n)

@@ -24,7 +24,7 @@ public:
     // The font name and fore colour of the list's surface, which the first item takes
     // when it is given none.
     ListModel(QString surfaceFont, int32_t surfaceColour)
-        : surfaceFont(std::move(surfaceFont)), surfaceColour(surfaceColour)
+        : m_surfaceFont(std::move(surfaceFont)), m_surfaceColour(surfaceColour)
     {}
 
     // ipic and colour come back settled.
@@ -33,9 +33,9 @@ public:
     void Clear() { items.clear(); }
     int SetItemData(std::optional<double> it, std::optional<double> value);
     // Column: 0 text, 1 data, 2 picture, 3 font, 4 colour; number columns take value.
-    int Update(std::optional<double> it, int column, const QString& text,
+    int update(std::optional<double> it, int column, const QString& text,
                std::optional<double> value);
-    void Sort(bool ascending);
+    void sort(bool ascending);
     // The item number found, 0 for none, no value when the search does not run; a
     // malformed pattern sets error to 93.
     std::optional<int> Find(int sdir, int it, const QString& pattern, int casen, int& error) const;
@@ -48,8 +48,8 @@ public:
     }
 
     // A record as the list stores it, the drawn width last.
-    static QString Record(const Item& item);
-    static QString Number(long long n);
+    static QString record(const Item& item);
+    static QString number(long long n);
 
     std::vector<Item> items;
     std::optional<int> chosen; // ListIndex reads 0 for none
@@ -60,8 +60,8 @@ public:
 
 private:
     // The 0-based index a value names, or -1 when it names no item.
-    int IndexOf(double it) const;
+    int indexOf(double it) const;
 
-    QString surfaceFont;
-    int32_t surfaceColour;
+    QString m_surfaceFont;
+    int32_t m_surfaceColour;
 };

@@ -13,7 +13,7 @@
 
 namespace {
 
-QWidget* TextOf(AboutForm& about)
+QWidget* textOf(AboutForm& about)
 {
     return about.findChild<QTextEdit*>()->viewport();
 }
@@ -30,7 +30,7 @@ QPoint Surface(const AboutForm& about)
 
 using Gesture = std::function<void(AboutForm&)>;
 
-bool StaysOpenAfter(const Gesture& gesture)
+bool staysOpenAfter(const Gesture& gesture)
 {
     AboutForm about;
     about.show();
@@ -60,25 +60,25 @@ TEST(AboutWindow, ClosesFourWays)
          [](AboutForm& a) { QTest::mouseClick(a.findChild<QPushButton*>(), Qt::LeftButton); }},
         {"a press on its surface",
          [](AboutForm& a) { QTest::mousePress(&a, Qt::RightButton, {}, Surface(a)); }},
-        {"a click on the text", [](AboutForm& a) { QTest::mouseClick(TextOf(a), Qt::LeftButton); }},
+        {"a click on the text", [](AboutForm& a) { QTest::mouseClick(textOf(a), Qt::LeftButton); }},
         {"the frame", [](AboutForm& a) { a.close(); }},
     };
     for (const auto& [way, gesture] : ways)
-        EXPECT_FALSE(StaysOpenAfter(gesture)) << way;
+        EXPECT_FALSE(staysOpenAfter(gesture)) << way;
 }
 
 TEST(AboutWindow, ThePictureTheVersionAndAReleaseOffTheTextLeaveItOpen)
 {
-    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) {
+    EXPECT_TRUE(staysOpenAfter([](AboutForm& a) {
         for (QLabel* label : a.findChildren<QLabel*>())
             QTest::mouseClick(label, Qt::LeftButton);
     }));
-    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) {
-        QWidget* text = TextOf(a);
+    EXPECT_TRUE(staysOpenAfter([](AboutForm& a) {
+        QWidget* text = textOf(a);
         QTest::mousePress(text, Qt::LeftButton, {}, text->rect().center());
         QTest::mouseRelease(text, Qt::LeftButton, {}, text->rect().bottomRight() + QPoint(9, 9));
     }));
-    EXPECT_TRUE(StaysOpenAfter([](AboutForm& a) { QTest::mousePress(TextOf(a), Qt::LeftButton); }));
+    EXPECT_TRUE(staysOpenAfter([](AboutForm& a) { QTest::mousePress(textOf(a), Qt::LeftButton); }));
 }
 
 TEST(AboutWindow, ShowModalReturnsOnceTheWindowIsClosed)

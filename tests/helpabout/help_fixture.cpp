@@ -11,8 +11,8 @@ TestPage::TestPage()
     rewrite(QStringLiteral("first version"));
     QImage dot(12, 12, QImage::Format_RGB32);
     dot.fill(Qt::green);
-    QDir(folder.path()).mkpath(QStringLiteral("help"));
-    dot.save(folder.filePath(QStringLiteral("help/dot.png")));
+    QDir(m_folder.path()).mkpath(QStringLiteral("help"));
+    dot.save(m_folder.filePath(QStringLiteral("help/dot.png")));
 }
 
 QString TestPage::address() const
@@ -39,12 +39,12 @@ void TestPage::rewrite(const QString& marker)
         file.write(html.toUtf8());
 }
 
-QTextBrowser* ViewOf(QWidget* browser)
+QTextBrowser* viewOf(QWidget* browser)
 {
     return browser->findChild<QTextBrowser*>();
 }
 
-QPoint LinkPoint(QTextBrowser* view, const QString& href)
+QPoint linkPoint(QTextBrowser* view, const QString& href)
 {
     QTextDocument* document = view->document();
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
@@ -60,7 +60,7 @@ QPoint LinkPoint(QTextBrowser* view, const QString& href)
     return {-1, -1};
 }
 
-void ClickLink(QTextBrowser* view, const QString& href)
+void clickLink(QTextBrowser* view, const QString& href)
 {
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, LinkPoint(view, href));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, linkPoint(view, href));
 }

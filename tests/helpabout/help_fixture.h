@@ -10,23 +10,23 @@
 class TestPage {
 public:
     TestPage();
-    QString path() const { return folder.filePath(QStringLiteral("tavok.htm")); }
+    QString path() const { return m_folder.filePath(QStringLiteral("tavok.htm")); }
     QString address() const;
     void rewrite(const QString& marker);
 
 private:
-    QTemporaryDir folder;
+    QTemporaryDir m_folder;
 };
 
-QTextBrowser* ViewOf(QWidget* browser);
+QTextBrowser* viewOf(QWidget* browser);
 // Where a link is in the view's viewport; (-1, -1) when the page has no such link.
-QPoint LinkPoint(QTextBrowser* view, const QString& href);
-void ClickLink(QTextBrowser* view, const QString& href);
-inline bool PageShows(QTextBrowser* view, const QString& text)
+QPoint linkPoint(QTextBrowser* view, const QString& href);
+void clickLink(QTextBrowser* view, const QString& href);
+inline bool pageShows(QTextBrowser* view, const QString& text)
 {
     return view->toPlainText().contains(text);
 }
-inline int ScrollOf(QTextBrowser* view)
+inline int scrollOf(QTextBrowser* view)
 {
     return view->verticalScrollBar()->value();
 }

@@ -22,7 +22,7 @@ protected:
         help->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(help));
         browser = help->findChild<WebBrowser*>();
-        view = ViewOf(browser);
+        view = viewOf(browser);
     }
 
     void TearDown() override { delete help.data(); }
@@ -43,7 +43,7 @@ protected:
     QTextBrowser* view = nullptr;
 };
 
-void RunDeferredDeletes()
+void runDeferredDeletes()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -53,9 +53,9 @@ void RunDeferredDeletes()
 TEST_F(HelpWindow, BackAndForwardActOnlyAfterAJumpInsideThePage)
 {
     EXPECT_EQ(help->windowTitle(), QStringLiteral("Tavok Help"));
-    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
-    ClickLink(view, QStringLiteral("#first"));
-    ClickLink(view, QStringLiteral("#second"));
+    EXPECT_TRUE(pageShows(view, QStringLiteral("first version")));
+    clickLink(view, QStringLiteral("#first"));
+    clickLink(view, QStringLiteral("#second"));
     click(QStringLiteral("Back"));
     EXPECT_EQ(browser->LocationURL(), at("#first"));
     click(QStringLiteral("Forward"));
@@ -69,28 +69,28 @@ TEST_F(HelpWindow, BackAndForwardActOnlyAfterAJumpInsideThePage)
 
 TEST_F(HelpWindow, AtThePlainPageBackDoesNothingEvenWithAHistory)
 {
-    ClickLink(view, QStringLiteral("#first"));
+    clickLink(view, QStringLiteral("#first"));
     help->Form_Activate();
     click(QStringLiteral("Back"));
     EXPECT_EQ(browser->LocationURL(), page.address());
-    EXPECT_EQ(ScrollOf(view), 0);
+    EXPECT_EQ(scrollOf(view), 0);
 }
 
 TEST_F(HelpWindow, ComingBackFromAnotherWindowReloadsThePageFromItsTop)
 {
-    ClickLink(view, QStringLiteral("#second"));
+    clickLink(view, QStringLiteral("#second"));
     page.rewrite(QStringLiteral("second version"));
     QWidget board;
     board.show();
     board.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&board));
-    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
+    EXPECT_TRUE(pageShows(view, QStringLiteral("first version")));
 
     help->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(help));
     EXPECT_EQ(browser->LocationURL(), page.address());
-    EXPECT_EQ(ScrollOf(view), 0);
-    EXPECT_TRUE(PageShows(view, QStringLiteral("second version")));
+    EXPECT_EQ(scrollOf(view), 0);
+    EXPECT_TRUE(pageShows(view, QStringLiteral("second version")));
 }
 
 TEST_F(HelpWindow, TheBrowserFollowsTheFrame)
@@ -117,9 +117,9 @@ TEST_F(HelpWindow, AWindowTooSmallLeavesTheBrowserAsItWas)
 
 TEST_F(HelpWindow, ExitHidesAndKeepsTheWindowClosingEvenAHiddenOneDestroysIt)
 {
-    ClickLink(view, QStringLiteral("#first"));
+    clickLink(view, QStringLiteral("#first"));
     click(QStringLiteral("Exit"));
-    RunDeferredDeletes();
+    runDeferredDeletes();
     ASSERT_FALSE(help.isNull());
     EXPECT_FALSE(help->isVisible());
     help->show();
@@ -127,7 +127,7 @@ TEST_F(HelpWindow, ExitHidesAndKeepsTheWindowClosingEvenAHiddenOneDestroysIt)
 
     click(QStringLiteral("Exit"));
     help->close();
-    RunDeferredDeletes();
+    runDeferredDeletes();
     EXPECT_TRUE(help.isNull());
 }
 
@@ -142,7 +142,7 @@ TEST_F(HelpWindow, AMissingPageGivesAnEmptyWindowThatStillAnswers)
     EXPECT_TRUE(view->toPlainText().isEmpty());
     for (QPushButton* button : help->findChildren<QPushButton*>())
         QTest::mouseClick(button, Qt::LeftButton);
-    RunDeferredDeletes();
+    runDeferredDeletes();
     ASSERT_FALSE(help.isNull());
     EXPECT_TRUE(view->toPlainText().isEmpty());
 }

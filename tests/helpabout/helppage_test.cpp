@@ -7,7 +7,7 @@
 
 namespace {
 
-QString ReadFile(const QString& path)
+QString readFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -32,7 +32,7 @@ protected:
         }
     }
 
-    const QString html = ReadFile(QStringLiteral(TAVOK_HELP_PAGE));
+    const QString html = readFile(QStringLiteral(TAVOK_HELP_PAGE));
     QTextDocument document;
     QStringList links, places, pictures;
 };
@@ -64,7 +64,7 @@ TEST_F(HelpPage, LiesBesideTheGameWithItsPicturesAfterABuild)
 {
     const QString source = QFileInfo(QStringLiteral(TAVOK_HELP_PAGE)).absolutePath();
     const QString game = QStringLiteral(TAVOK_GAME_FOLDER);
-    EXPECT_EQ(ReadFile(game + QStringLiteral("/tavok.htm")), html);
+    EXPECT_EQ(readFile(game + QStringLiteral("/tavok.htm")), html);
     for (const QString& picture : pictures) {
         EXPECT_TRUE(picture.startsWith(QStringLiteral("help/"))) << picture.toStdString();
         EXPECT_TRUE(QFileInfo::exists(source + QLatin1Char('/') + picture))

@@ -19,7 +19,7 @@ protected:
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
         browser.Navigate(page.path());
-        view = ViewOf(&browser);
+        view = viewOf(&browser);
     }
 
     QString at(const char* place) const { return page.address() + QLatin1String(place); }
@@ -49,32 +49,32 @@ TEST_F(Browser, AJumpAddsThePlaceToTheAddressAndBackAndForwardWalkTheJumps)
     browser.GoBack();
     EXPECT_EQ(browser.LocationURL(), page.address()) << "nothing to go back to";
 
-    ClickLink(view, QStringLiteral("#first"));
-    const int first = ScrollOf(view);
-    ClickLink(view, QStringLiteral("tavok.htm#second"));
-    const int second = ScrollOf(view);
+    clickLink(view, QStringLiteral("#first"));
+    const int first = scrollOf(view);
+    clickLink(view, QStringLiteral("tavok.htm#second"));
+    const int second = scrollOf(view);
     EXPECT_EQ(browser.LocationURL(), at("#second"));
     ASSERT_GT(second, first);
     ASSERT_GT(first, 0);
 
     browser.GoBack();
     EXPECT_EQ(browser.LocationURL(), at("#first"));
-    EXPECT_EQ(ScrollOf(view), first);
+    EXPECT_EQ(scrollOf(view), first);
     browser.GoBack();
     EXPECT_EQ(browser.LocationURL(), page.address());
-    EXPECT_EQ(ScrollOf(view), 0);
+    EXPECT_EQ(scrollOf(view), 0);
     browser.GoForward();
     browser.GoForward();
     browser.GoForward();
     EXPECT_EQ(browser.LocationURL(), at("#second"));
-    EXPECT_EQ(ScrollOf(view), second);
+    EXPECT_EQ(scrollOf(view), second);
 }
 
 TEST_F(Browser, AJumpCutsOffWhatLayForward)
 {
-    ClickLink(view, QStringLiteral("#first"));
+    clickLink(view, QStringLiteral("#first"));
     browser.GoBack();
-    ClickLink(view, QStringLiteral("#second"));
+    clickLink(view, QStringLiteral("#second"));
     browser.GoForward();
     EXPECT_EQ(browser.LocationURL(), at("#second"));
     browser.GoBack();
@@ -89,21 +89,21 @@ TEST_F(Browser, LinksOutOfThePageOpenNothing)
         QDesktopServices::setUrlHandler(scheme, &opened, "open");
     for (const char* href :
          {"http://tavok.example/", "mailto:dravo@tavok.example", "other.htm#first"}) {
-        ASSERT_NE(LinkPoint(view, QLatin1String(href)), QPoint(-1, -1)) << href;
-        ClickLink(view, QLatin1String(href));
+        ASSERT_NE(linkPoint(view, QLatin1String(href)), QPoint(-1, -1)) << href;
+        clickLink(view, QLatin1String(href));
         EXPECT_EQ(browser.LocationURL(), page.address()) << href;
     }
     for (const QString& scheme : schemes)
         QDesktopServices::unsetUrlHandler(scheme);
     EXPECT_EQ(opened.count, 0);
-    EXPECT_TRUE(PageShows(view, QStringLiteral("first version")));
+    EXPECT_TRUE(pageShows(view, QStringLiteral("first version")));
 }
 
 TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
 {
     page.rewrite(QStringLiteral("second version"));
     browser.Navigate(page.path());
-    EXPECT_TRUE(PageShows(view, QStringLiteral("second version")));
+    EXPECT_TRUE(pageShows(view, QStringLiteral("second version")));
     const QVariant picture = view->document()->resource(QTextDocument::ImageResource,
                                                         QUrl(QStringLiteral("help/dot.png")));
     EXPECT_EQ(picture.value<QImage>().size(), QSize(12, 12));

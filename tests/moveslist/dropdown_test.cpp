@@ -18,7 +18,7 @@ protected:
     void SetUp() override
     {
         host.resize(400, 400);
-        list = UserControl1::FromBlock(lbblock::Write(PropertyBag()), &host);
+        list = UserControl1::fromBlock(lbblock::write(PropertyBag()), &host);
         list->setGeometry(10, 10, 300, 19);
         below = new QPushButton(QStringLiteral("below"), &host);
         below->setGeometry(10, 40, 300, 30);
@@ -27,7 +27,7 @@ protected:
         list->BackColor(0x00FFFFFF);
         list->DropDownHeight(2000);
         list->Mode(1);
-        AppendItems(*list, 20);
+        appendItems(*list, 20);
         host.show();
         host.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
@@ -52,13 +52,13 @@ TEST_F(DropDown, TheHeadIsATextBoxWithTheButtonOverItsRightEnd)
     EXPECT_FALSE(open());
     EXPECT_TRUE(p.textBox()->isVisible());
     EXPECT_TRUE(p.button()->isVisible());
-    EXPECT_EQ(headHeight(), PixelsDown(252));
+    EXPECT_EQ(headHeight(), pixelsDown(252));
     const QRect box = p.textBox()->geometry();
     const QRect button = p.button()->geometry();
     EXPECT_EQ(std::make_pair(button.top(), button.height()),
               std::make_pair(box.top(), box.height()));
     // The button covers the last 20 twips of the box and ends where the bar ends.
-    EXPECT_EQ(button.left(), box.right() + 1 - PixelsDown(20));
+    EXPECT_EQ(button.left(), box.right() + 1 - pixelsDown(20));
     EXPECT_NEAR(button.right(), p.scrollBar()->geometry().right(), 1);
     EXPECT_EQ(p.canvasWidget()->geometry().top(), box.bottom() + 1);
     EXPECT_EQ(p.scrollBar()->geometry().top(), box.bottom() + 1);
@@ -70,8 +70,8 @@ TEST_F(DropDown, TheButtonOpensTheListOverTheWidgetsBelowFromItemOne)
     clickButton();
     ASSERT_TRUE(open());
     const ListState& st = list->state();
-    EXPECT_EQ(list->height(), PixelsDown(st.ViewHeight + 252 + 48));
-    EXPECT_EQ(probe().canvasHeight(), PixelsDown(st.ViewHeight));
+    EXPECT_EQ(list->height(), pixelsDown(st.ViewHeight + 252 + 48));
+    EXPECT_EQ(probe().canvasHeight(), pixelsDown(st.ViewHeight));
     // Under the head, not over it.
     EXPECT_EQ(probe().canvasWidget()->y(), probe().textBox()->geometry().bottom() + 1);
     // Painted from item 1; the bar stays where it was.
@@ -90,7 +90,7 @@ TEST_F(DropDown, APickClosesTheListBeforeTheHostHearsOfIt)
                      [&](int16_t&, int16_t&, float&, float&) { closedWhenHeard = !open(); });
     clickButton();
     press(Qt::Key_Down);
-    QTest::mouseClick(probe().canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 2));
+    QTest::mouseClick(probe().canvasWidget(), Qt::LeftButton, {}, rowPoint(*list, 2));
     EXPECT_EQ(list->text(), AnyValue("item 3"));
     EXPECT_EQ(list->ListIndex(), AnyValue(2));
     EXPECT_TRUE(closedWhenHeard);
@@ -113,13 +113,13 @@ TEST_F(DropDown, ReturnCommitsAndClosesEscapeAndTheSecondReleaseOnlyClose)
     // The second release takes the mark off before it closes.
     clickButton();
     press(Qt::Key_Down);
-    ASSERT_TRUE(RowMarked(*list, 0));
+    ASSERT_TRUE(rowMarked(*list, 0));
     clickButton();
     EXPECT_FALSE(open());
     EXPECT_EQ(list->height(), headHeight());
     EXPECT_EQ(list->state().SelectedRow, -1);
     clickButton();
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     EXPECT_EQ(list->text(), AnyValue("item 1"));
 }
 
@@ -143,7 +143,7 @@ TEST_F(DropDown, ShowItemOpensAClosedListOnTheItemButAnEmptyListNeitherOpensNorG
     list->ShowItem(7);
     EXPECT_TRUE(open());
     EXPECT_EQ(list->state().TopRow, 7);
-    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(rowMarked(*list, 0));
     EXPECT_EQ(list->text(), AnyValue("item 7"));
     EXPECT_TRUE(probe().canvasWidget()->hasFocus());
     clickButton();
@@ -159,19 +159,19 @@ TEST_F(DropDown, ShowItemOpensAClosedListOnTheItemButAnEmptyListNeitherOpensNorG
 
 TEST(DropDownLayout, WithoutABorderTheOpenListIsExactlyHeadAndRows)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->resize(300, 19);
     list->BorderStyle(0);
     list->DropDownHeight(2000);
     list->Mode(1);
-    AppendItems(*list, 5);
+    appendItems(*list, 5);
     QTest::mouseClick(ListProbe(*list).button(), Qt::LeftButton);
-    EXPECT_EQ(list->height(), PixelsDown(list->state().ViewHeight + 252.0));
+    EXPECT_EQ(list->height(), pixelsDown(list->state().ViewHeight + 252.0));
 }
 
 TEST(DropDownLayout, ModeZeroWithItemsPullsTheBarBackToTheTop)
 {
-    auto list = WhiteList(20);
+    auto list = whiteList(20);
     ListProbe probe(*list);
     probe.setScrollValue(5);
     list->Mode(0);

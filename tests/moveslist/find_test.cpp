@@ -8,10 +8,10 @@
 namespace {
 
 // Whether a one-item list with the text `subject` is found by `pattern`.
-bool Found(const QString& pattern, const QString& subject, int16_t casen)
+bool found(const QString& pattern, const QString& subject, int16_t casen)
 {
-    auto list = LoadedList();
-    AppendTexts(*list, {subject});
+    auto list = loadedList();
+    appendTexts(*list, {subject});
     return list->Find(0, 0, pattern, casen) == AnyValue(1);
 }
 
@@ -61,7 +61,7 @@ TEST(PatternLanguage, EachRuleOnItsOwn)
         {"*I*", "x\u0131y", false},
     };
     for (const Row& row : rows)
-        EXPECT_EQ(Found(QString::fromUtf8(row.pattern), QString::fromUtf8(row.subject), row.casen),
+        EXPECT_EQ(found(QString::fromUtf8(row.pattern), QString::fromUtf8(row.subject), row.casen),
                   row.found)
             << "pattern \"" << row.pattern << "\" on \"" << row.subject << "\" casen " << row.casen;
 }
@@ -69,12 +69,12 @@ TEST(PatternLanguage, EachRuleOnItsOwn)
 TEST(PatternLanguage, AnUnclosedBracketOrAReversedRangeIsRefused)
 {
     for (const char* pattern : {"[abc", "*[", "[!", "[f-a]", "[a-c9-0]"})
-        EXPECT_EQ(ErrorCode([&] { LikePattern{QString::fromLatin1(pattern)}; }),
+        EXPECT_EQ(errorCode([&] { LikePattern{QString::fromLatin1(pattern)}; }),
                   ListErrorCode::InvalidPattern)
             << pattern;
     // Upper-casing can turn a range round: Z-a becomes Z-A.
-    EXPECT_EQ(ErrorCode([] { Found("[Z-a]", "_", 0); }), ListErrorCode::InvalidPattern);
-    EXPECT_TRUE(Found("[Z-a]", "_", 1));
+    EXPECT_EQ(errorCode([] { found("[Z-a]", "_", 0); }), ListErrorCode::InvalidPattern);
+    EXPECT_TRUE(found("[Z-a]", "_", 1));
 }
 
 TEST(PatternLanguage, ManyStarsOnALongSubjectTakeNoTime)
@@ -90,7 +90,7 @@ class Finding : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        AppendTexts(*list, {"alpha", "beta", "alpha2", "gamma", "alpha", "delta"});
+        appendTexts(*list, {"alpha", "beta", "alpha2", "gamma", "alpha", "delta"});
     }
 
     AnyValue find(int16_t sdir, int16_t it, const char* pattern, int16_t casen = 0)
@@ -98,7 +98,7 @@ protected:
         return list->Find(sdir, it, QString::fromLatin1(pattern), casen);
     }
 
-    std::unique_ptr<UserControl1> list = LoadedList();
+    std::unique_ptr<UserControl1> list = loadedList();
 };
 
 // Forward from the start item, backward from the last item down to it; neither wraps.
@@ -119,10 +119,10 @@ TEST_F(Finding, TheRunCoversTheStartItemToTheLast)
     // that is never read is not refused.
     EXPECT_TRUE(find(0, 6, "delta").isEmpty());
     EXPECT_TRUE(find(1, -1, "delta").isEmpty());
-    EXPECT_TRUE(LoadedList()->Find(0, 0, "*").isEmpty());
-    EXPECT_EQ(ErrorCode([&] { find(0, 9, "["); }), 0);
+    EXPECT_TRUE(loadedList()->Find(0, 0, "*").isEmpty());
+    EXPECT_EQ(errorCode([&] { find(0, 9, "["); }), 0);
     // 32,767 + 1 does not fit the start item's 16 bits.
-    EXPECT_EQ(ErrorCode([&] { find(0, 32767, "*"); }), ListErrorCode::Overflow);
+    EXPECT_EQ(errorCode([&] { find(0, 32767, "*"); }), ListErrorCode::Overflow);
 }
 
 TEST_F(Finding, OnlyTheTextIsSearchedAndCaseCountsWithCasenOne)
@@ -135,21 +135,21 @@ TEST_F(Finding, OnlyTheTextIsSearchedAndCaseCountsWithCasenOne)
     EXPECT_EQ(find(0, 0, "GAMMA", 2), AnyValue(4));
     // The empty pattern finds only an empty text.
     EXPECT_EQ(find(0, 0, ""), AnyValue(0));
-    AppendTexts(*list, {""});
+    appendTexts(*list, {""});
     EXPECT_EQ(find(0, 0, ""), AnyValue(7));
 }
 
 TEST_F(Finding, ABadPatternStopsTheSearchAndLeavesTheList)
 {
-    const std::vector<QString> before = Records(*list);
-    EXPECT_EQ(ErrorCode([&] { find(0, 0, "alpha["); }), ListErrorCode::InvalidPattern);
-    EXPECT_EQ(ErrorCode([&] { find(1, 0, "[z-a]*", 1); }), ListErrorCode::InvalidPattern);
-    EXPECT_EQ(Records(*list), before);
+    const std::vector<QString> before = records(*list);
+    EXPECT_EQ(errorCode([&] { find(0, 0, "alpha["); }), ListErrorCode::InvalidPattern);
+    EXPECT_EQ(errorCode([&] { find(1, 0, "[z-a]*", 1); }), ListErrorCode::InvalidPattern);
+    EXPECT_EQ(records(*list), before);
 }
 
 class ShowingItems : public ::testing::Test {
 protected:
-    std::unique_ptr<UserControl1> list = WhiteList(20);
+    std::unique_ptr<UserControl1> list = whiteList(20);
     ListProbe probe{*list};
 };
 
@@ -166,14 +166,14 @@ TEST_F(ShowingItems, TheItemFoundComesToTheFirstRowMarkedAndChosen)
     EXPECT_EQ(probe.scrollValue(), 9);
     EXPECT_EQ(list->state().TopRow, 10);
     EXPECT_EQ(list->state().SelectedRow, 0);
-    EXPECT_TRUE(RowMarked(*list, 0));
-    EXPECT_FALSE(RowMarked(*list, 1));
+    EXPECT_TRUE(rowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 1));
     // The last item stands alone on the first row, blank canvas below it.
     list->ShowItem(20);
     EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
               std::make_pair(int16_t(20), int16_t(20)));
-    EXPECT_TRUE(RowMarked(*list, 0));
-    EXPECT_TRUE(Blank(list->canvas(), 0xFFFFFFFF, PixelsDown(list->state().RowTwips * 1.2)));
+    EXPECT_TRUE(rowMarked(*list, 0));
+    EXPECT_TRUE(blank(list->canvas(), 0xFFFFFFFF, pixelsDown(list->state().RowTwips * 1.2)));
 }
 
 TEST_F(ShowingItems, TheItemAlreadyOnTopIsNotRepaintedAndEndsMarked)

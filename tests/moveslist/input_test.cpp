@@ -7,7 +7,7 @@
 
 namespace {
 
-std::vector<int> Codes(const std::vector<ListEvents::Key>& keys)
+std::vector<int> codes(const std::vector<ListEvents::Key>& keys)
 {
     std::vector<int> codes;
     for (const ListEvents::Key& key : keys)
@@ -20,11 +20,11 @@ protected:
     void press(Qt::Key key) { QTest::keyClick(probe.canvasWidget(), key); }
     void click(int row, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {})
     {
-        QTest::mouseClick(probe.canvasWidget(), button, keys, RowPoint(*list, row));
+        QTest::mouseClick(probe.canvasWidget(), button, keys, rowPoint(*list, row));
     }
-    std::vector<int> keyDowns() const { return Codes(events.KeyDown); }
+    std::vector<int> keyDowns() const { return codes(events.KeyDown); }
 
-    std::unique_ptr<UserControl1> list = WhiteList(20);
+    std::unique_ptr<UserControl1> list = whiteList(20);
     ListProbe probe{*list};
     ListEvents events{*list};
 };
@@ -36,10 +36,10 @@ TEST_F(KeyWalk, TheFirstPressShowsTheMarkAndEachFurtherStepScrollsOneItemUnderIt
 {
     press(Qt::Key_Down);
     EXPECT_EQ(list->state().SelectedRow, 0);
-    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(rowMarked(*list, 0));
     EXPECT_EQ(probe.scrollValue(), 0);
     EXPECT_TRUE(events.KeyDown.empty());
-    EXPECT_EQ(Codes(events.KeyUp), std::vector<int>({40}));
+    EXPECT_EQ(codes(events.KeyUp), std::vector<int>({40}));
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     EXPECT_EQ(probe.scrollValue(), 2);
@@ -47,8 +47,8 @@ TEST_F(KeyWalk, TheFirstPressShowsTheMarkAndEachFurtherStepScrollsOneItemUnderIt
     press(Qt::Key_Up);
     EXPECT_EQ(probe.scrollValue(), 1);
     EXPECT_EQ(list->state().SelectedRow, 0);
-    EXPECT_TRUE(RowMarked(*list, 0));
-    EXPECT_FALSE(RowMarked(*list, 1));
+    EXPECT_TRUE(rowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 1));
     EXPECT_EQ(keyDowns(), std::vector<int>({40, 40, 38}));
 }
 
@@ -57,18 +57,18 @@ TEST_F(KeyWalk, TheEndsStopTheWalkAndEndPutsTheLastItemAloneOnTop)
     // Not even the mark appears.
     press(Qt::Key_Up);
     EXPECT_EQ(list->state().SelectedRow, -1);
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     press(Qt::Key_Down);
     press(Qt::Key_End);
     EXPECT_EQ(probe.scrollValue(), 19);
     EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
               std::make_pair(int16_t(20), int16_t(20)));
     // The scroll wiped the mark, so the tail only shows it again.
-    EXPECT_TRUE(RowMarked(*list, 0));
-    EXPECT_FALSE(RowMarked(*list, 1));
+    EXPECT_TRUE(rowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 1));
     press(Qt::Key_Down);
     EXPECT_EQ(probe.scrollValue(), 19);
-    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(rowMarked(*list, 0));
     EXPECT_TRUE(events.KeyDown.empty());
 }
 
@@ -76,18 +76,18 @@ TEST_F(KeyWalk, HomeEndAndPagingWhereTheListAlreadyIsToggleTheMark)
 {
     press(Qt::Key_End);
     press(Qt::Key_End);
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     EXPECT_EQ(list->state().SelectedRow, 0);
     press(Qt::Key_Home);
     EXPECT_EQ(probe.scrollValue(), 0);
-    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(rowMarked(*list, 0));
     press(Qt::Key_Home);
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     // No key pages.
     press(Qt::Key_PageDown);
-    EXPECT_TRUE(RowMarked(*list, 0));
+    EXPECT_TRUE(rowMarked(*list, 0));
     press(Qt::Key_PageUp);
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     EXPECT_EQ(probe.scrollValue(), 0);
     EXPECT_EQ(keyDowns(), std::vector<int>({35, 36, 34, 33}));
 }
@@ -102,11 +102,11 @@ TEST_F(KeyWalk, ReturnCommitsTheTopItemWhereverTheMarkIs)
     EXPECT_EQ(list->text(), AnyValue("item 2"));
     EXPECT_EQ(probe.ChosenIndex(), " 1");
     EXPECT_EQ(list->state().SelectedRow, 3);
-    EXPECT_TRUE(RowMarked(*list, 3));
+    EXPECT_TRUE(rowMarked(*list, 3));
     // Escape takes the mark off and the choice back not at all.
     press(Qt::Key_Escape);
     EXPECT_EQ(list->state().SelectedRow, -1);
-    EXPECT_FALSE(RowMarked(*list, 3));
+    EXPECT_FALSE(rowMarked(*list, 3));
     EXPECT_EQ(list->text(), AnyValue("item 2"));
     QTest::keyClick(probe.canvasWidget(), Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(list->ListIndex(), AnyValue(1));
@@ -119,8 +119,8 @@ TEST_F(KeyWalk, AfterAMousePickLowerDownTheMarkJumpsToTheTop)
     press(Qt::Key_Down);
     EXPECT_EQ(probe.scrollValue(), 1);
     EXPECT_EQ(list->state().SelectedRow, 0);
-    EXPECT_TRUE(RowMarked(*list, 0));
-    EXPECT_FALSE(RowMarked(*list, 4));
+    EXPECT_TRUE(rowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 4));
 }
 
 TEST_F(KeyWalk, KeyPressAndKeyUpReachTheHostForEveryKey)
@@ -129,7 +129,7 @@ TEST_F(KeyWalk, KeyPressAndKeyUpReachTheHostForEveryKey)
     press(Qt::Key_Up);
     EXPECT_TRUE(events.KeyDown.empty());
     EXPECT_EQ(events.KeyPress, std::vector<int>({'a'}));
-    EXPECT_EQ(Codes(events.KeyUp), std::vector<int>({65, 38}));
+    EXPECT_EQ(codes(events.KeyUp), std::vector<int>({65, 38}));
     // The Shift key goes down first, and is a key like any other.
     QTest::keyClick(probe.canvasWidget(), 'A', Qt::ShiftModifier);
     ASSERT_EQ(keyDowns(), std::vector<int>({16, 65}));
@@ -140,20 +140,20 @@ TEST_F(KeyWalk, KeyPressAndKeyUpReachTheHostForEveryKey)
 TEST(KeysOnShortLists, NoItemOnTopCommitsNothingAndOneItemStopsAtOnce)
 {
     // End on an empty list asks the bar for value -1: the key ends there.
-    auto empty = UnpaintedList();
+    auto empty = unpaintedList();
     ListEvents emptyEvents(*empty);
     QTest::keyClick(ListProbe(*empty).canvasWidget(), Qt::Key_Down);
     QTest::keyClick(ListProbe(*empty).canvasWidget(), Qt::Key_End);
     EXPECT_EQ(empty->state().SelectedRow, 0);
     EXPECT_TRUE(emptyEvents.KeyDown.empty());
-    auto unpainted = UnpaintedList(3);
+    auto unpainted = unpaintedList(3);
     ASSERT_EQ(unpainted->state().TopRow, -1);
     ListEvents unpaintedEvents(*unpainted);
     QTest::keyClick(ListProbe(*unpainted).canvasWidget(), Qt::Key_Return);
     EXPECT_EQ(unpainted->text(), AnyValue(""));
     EXPECT_TRUE(unpaintedEvents.KeyDown.empty());
 
-    auto list = WhiteList(1);
+    auto list = whiteList(1);
     ListEvents events(*list);
     QWidget* canvas = ListProbe(*list).canvasWidget();
     QTest::keyClick(canvas, Qt::Key_Down);
@@ -162,15 +162,15 @@ TEST(KeysOnShortLists, NoItemOnTopCommitsNothingAndOneItemStopsAtOnce)
     EXPECT_EQ(list->state().SelectedRow, -1);
     QTest::keyClick(canvas, Qt::Key_Return);
     EXPECT_EQ(list->text(), AnyValue("item 1"));
-    EXPECT_EQ(Codes(events.KeyDown), std::vector<int>({13}));
+    EXPECT_EQ(codes(events.KeyDown), std::vector<int>({13}));
 }
 
 TEST(KeysInTheHead, TypingStaysInTheTextBoxAndOnlyKeyDownReachesTheHost)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->DropDownHeight(2000);
     list->Mode(1);
-    AppendItems(*list, 3);
+    appendItems(*list, 3);
     ListProbe probe(*list);
     ListEvents events(*list);
     QTest::keyClicks(probe.textBox(), "ab");
@@ -178,7 +178,7 @@ TEST(KeysInTheHead, TypingStaysInTheTextBoxAndOnlyKeyDownReachesTheHost)
     EXPECT_EQ(list->text(), AnyValue("ab"));
     EXPECT_EQ(probe.ChosenIndex(), "");
     EXPECT_TRUE(probe.canvasHidden());
-    EXPECT_EQ(Codes(events.KeyDown), std::vector<int>({65, 66, 40}));
+    EXPECT_EQ(codes(events.KeyDown), std::vector<int>({65, 66, 40}));
     EXPECT_TRUE(events.KeyPress.empty());
     EXPECT_TRUE(events.KeyUp.empty());
 }
@@ -196,39 +196,39 @@ TEST_F(MousePick, AReleaseOnARowChoosesItsItemMarksItAndTellsTheHostLast)
     EXPECT_EQ(seen, "item 3");
     EXPECT_EQ(probe.ChosenIndex(), " 2");
     EXPECT_EQ(list->state().SelectedRow, 2);
-    EXPECT_TRUE(RowMarked(*list, 2));
-    EXPECT_FALSE(RowMarked(*list, 1));
+    EXPECT_TRUE(rowMarked(*list, 2));
+    EXPECT_FALSE(rowMarked(*list, 1));
     ASSERT_EQ(events.MouseUp.size(), 2u);
     const ListEvents::Mouse& right = events.MouseUp[0];
     const ListEvents::Mouse& left = events.MouseUp[1];
     EXPECT_EQ(std::make_tuple(right.Button, right.Shift, left.Button, left.Shift),
               std::make_tuple(2, 6, 1, 1));
     // In twips, on the canvas.
-    EXPECT_FLOAT_EQ(left.X, float(30 * TwipsPerPixelX()));
-    EXPECT_FLOAT_EQ(left.Y, float(RowPoint(*list, 2).y() * TwipsPerPixelY()));
+    EXPECT_FLOAT_EQ(left.X, float(30 * twipsPerPixelX()));
+    EXPECT_FLOAT_EQ(left.Y, float(rowPoint(*list, 2).y() * twipsPerPixelY()));
     EXPECT_EQ(events.Click + events.MouseDown, 0);
 }
 
 TEST_F(MousePick, TheMarkedRowStaysMarkedAlsoThroughADoubleClickAndAnotherTakesItOver)
 {
     QWidget* canvas = probe.canvasWidget();
-    const QPoint at = RowPoint(*list, 2);
+    const QPoint at = rowPoint(*list, 2);
     QTest::mouseClick(canvas, Qt::LeftButton, {}, at);
     QTest::mouseDClick(canvas, Qt::LeftButton, {}, at);
     QTest::mouseRelease(canvas, Qt::LeftButton, {}, at);
-    EXPECT_TRUE(RowMarked(*list, 2));
+    EXPECT_TRUE(rowMarked(*list, 2));
     click(4);
-    EXPECT_FALSE(RowMarked(*list, 2));
-    EXPECT_TRUE(RowMarked(*list, 4));
+    EXPECT_FALSE(rowMarked(*list, 2));
+    EXPECT_TRUE(rowMarked(*list, 4));
     EXPECT_EQ(events.MouseUp.size(), 3u);
 }
 
 TEST_F(MousePick, RowsBelowTheLastItemAndAnEmptyListAreDead)
 {
-    std::unique_ptr<UserControl1> others[] = {WhiteList(3), UnpaintedList()};
+    std::unique_ptr<UserControl1> others[] = {whiteList(3), unpaintedList()};
     for (auto& other : others) {
         ListEvents heard(*other);
-        QTest::mouseClick(ListProbe(*other).canvasWidget(), Qt::LeftButton, {}, RowPoint(*list, 4));
+        QTest::mouseClick(ListProbe(*other).canvasWidget(), Qt::LeftButton, {}, rowPoint(*list, 4));
         EXPECT_EQ(other->text(), AnyValue(""));
         EXPECT_EQ(other->state().SelectedRow, -1);
         EXPECT_TRUE(heard.MouseUp.empty());
@@ -247,14 +247,14 @@ TEST_F(MousePick, RowsBelowTheLastItemAndAnEmptyListAreDead)
 TEST_F(MousePick, AReleaseAboveTheCanvasPicksTheRowsAboveTheTop)
 {
     QWidget* canvas = probe.canvasWidget();
-    const QPoint above(30, -PixelsDown(list->state().RowTwips * 1.5));
+    const QPoint above(30, -pixelsDown(list->state().RowTwips * 1.5));
     // Nothing lies above item 1.
-    QTest::mousePress(canvas, Qt::LeftButton, {}, RowPoint(*list, 0));
+    QTest::mousePress(canvas, Qt::LeftButton, {}, rowPoint(*list, 0));
     QTest::mouseRelease(canvas, Qt::LeftButton, {}, above);
     EXPECT_TRUE(events.MouseUp.empty());
 
     probe.setScrollValue(5);
-    QTest::mousePress(canvas, Qt::LeftButton, {}, RowPoint(*list, 0));
+    QTest::mousePress(canvas, Qt::LeftButton, {}, rowPoint(*list, 0));
     QTest::mouseRelease(canvas, Qt::LeftButton, {}, above);
     EXPECT_EQ(list->text(), AnyValue("item 4"));
     EXPECT_EQ(events.MouseUp.size(), 1u);
@@ -263,11 +263,11 @@ TEST_F(MousePick, AReleaseAboveTheCanvasPicksTheRowsAboveTheTop)
 // Moves with a button held go to the widget pressed, wherever the pointer is.
 TEST(MouseMoves, OnlyTheButtonAndTheBareSurfaceTellTheHost)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->resize(300, 40);
     list->DropDownHeight(2000);
     list->Mode(1);
-    AppendItems(*list, 5);
+    appendItems(*list, 5);
     ListProbe probe(*list);
     ListEvents events(*list);
     const auto drag = [](QWidget* widget, Qt::MouseButton button, QPoint to) {
@@ -285,10 +285,10 @@ TEST(MouseMoves, OnlyTheButtonAndTheBareSurfaceTellTheHost)
     const ListEvents::Mouse& button = events.MouseMove[0];
     const ListEvents::Mouse& surface = events.MouseMove[1];
     EXPECT_EQ(std::make_pair(button.Button, surface.Button), std::make_pair(2, 1));
-    EXPECT_FLOAT_EQ(button.X, float(4 * TwipsPerPixelX()));
-    EXPECT_FLOAT_EQ(button.Y, float(6 * TwipsPerPixelY()));
-    EXPECT_FLOAT_EQ(surface.X, float((20 - 2) * TwipsPerPixelX()));
-    EXPECT_FLOAT_EQ(surface.Y, float((30 - 2) * TwipsPerPixelY()));
+    EXPECT_FLOAT_EQ(button.X, float(4 * twipsPerPixelX()));
+    EXPECT_FLOAT_EQ(button.Y, float(6 * twipsPerPixelY()));
+    EXPECT_FLOAT_EQ(surface.X, float((20 - 2) * twipsPerPixelX()));
+    EXPECT_FLOAT_EQ(surface.Y, float((30 - 2) * twipsPerPixelY()));
 }
 
 } // namespace

@@ -14,7 +14,7 @@ using namespace itemrecord;
 
 constexpr int32_t Red = 0x000000FF;
 
-void Add(UserControl1& list, const char* text, int16_t itemx)
+void add(UserControl1& list, const char* text, int16_t itemx)
 {
     QString s = QString::fromLatin1(text);
     list.Additem(s, itemx);
@@ -22,7 +22,7 @@ void Add(UserControl1& list, const char* text, int16_t itemx)
 
 class Store : public ::testing::Test {
 protected:
-    std::unique_ptr<UserControl1> list = LoadedList();
+    std::unique_ptr<UserControl1> list = loadedList();
     ListProbe probe{*list};
 };
 
@@ -30,24 +30,24 @@ TEST_F(Store, WhereANewItemLands)
 {
     // On an empty list an insert adds nothing, and a first line on top takes the append
     // path: its drawn width stays empty, where an insert writes one blank.
-    Add(*list, "at 1", 1);
+    add(*list, "at 1", 1);
     EXPECT_EQ(list->ListCount(), AnyValue(0));
-    Add(*list, "first", -1);
-    Add(*list, "second", -1);
+    add(*list, "first", -1);
+    add(*list, "second", -1);
     EXPECT_EQ(QStringList({probe.column(1, DrawnWidth), probe.column(2, DrawnWidth)}),
               QStringList({" ", ""}));
     list->Clear();
-    AppendItems(*list, 3);
-    Add(*list, "at 1", 1);
-    Add(*list, "on top", -1);
-    Add(*list, "zero", 0);
-    Add(*list, "minus five", -5);
+    appendItems(*list, 3);
+    add(*list, "at 1", 1);
+    add(*list, "on top", -1);
+    add(*list, "zero", 0);
+    add(*list, "minus five", -5);
     // The last position that inserts lands before the last item; the count and beyond
     // add nothing, and leave one spare entry.
-    Add(*list, "before last", 6);
-    Add(*list, "at count", 8);
-    Add(*list, "beyond", 9);
-    EXPECT_EQ(Texts(*list), QStringList({"on top", "item 1", "at 1", "item 2", "item 3", "zero",
+    add(*list, "before last", 6);
+    add(*list, "at count", 8);
+    add(*list, "beyond", 9);
+    EXPECT_EQ(texts(*list), QStringList({"on top", "item 1", "at 1", "item 2", "item 3", "zero",
                                          "before last", "minus five"}));
     EXPECT_EQ(probe.LastAddedIndex(), " 6");
     EXPECT_EQ(probe.itemsUpperBound(), 9);
@@ -57,19 +57,19 @@ TEST_F(Store, ColumnsOfANewItem)
 {
     // The first item without a colour takes the surface's, not forecolor.
     list->forecolor(0x00123456);
-    EXPECT_EQ(AddFull(*list, "plain", 0, -1, -1),
+    EXPECT_EQ(addFull(*list, "plain", 0, -1, -1),
               std::make_pair(int16_t(-1), olecolor::ButtonText));
     EXPECT_EQ(probe.column(1, FontName), list->font().family());
-    AddFull(*list, "full", 0, 7, 0x00FF8040, "Courier");
+    addFull(*list, "full", 0, 7, 0x00FF8040, "Courier");
     EXPECT_EQ(probe.record(2), QString("full\t0\t 7\tCourier\t %1\t").arg(0x00FF8040));
-    AddFull(*list, "green", 0, 5, 0x00FF00);
+    addFull(*list, "green", 0, 5, 0x00FF00);
     // An insert next to item 1 still takes the last item's picture and colour.
-    EXPECT_EQ(AddFull(*list, "inserted", 1, 0, -1), std::make_pair(int16_t(5), int32_t(0x00FF00)));
+    EXPECT_EQ(addFull(*list, "inserted", 1, 0, -1), std::make_pair(int16_t(5), int32_t(0x00FF00)));
     // 0 is an explicit black, and a picture index above 0 is kept.
-    EXPECT_EQ(AddFull(*list, "black", -1, 2, 0), std::make_pair(int16_t(2), int32_t(0)));
+    EXPECT_EQ(addFull(*list, "black", -1, 2, 0), std::make_pair(int16_t(2), int32_t(0)));
     // A font name stays in force, also across Clear.
     list->Clear();
-    Add(*list, "after clear", 0);
+    add(*list, "after clear", 0);
     EXPECT_EQ(probe.column(1, FontName), "Courier");
 }
 
@@ -77,7 +77,7 @@ TEST_F(Store, ClearEmptiesTheItemsAndKeepsEverythingElse)
 {
     list->DropDownHeight(3000);
     list->Mode(0);
-    AppendItems(*list, 30);
+    appendItems(*list, 30);
     probe.setScrollValue(5);
     probe.ChosenIndex(" 7");
     probe.Text1("item 8");
@@ -92,14 +92,14 @@ TEST_F(Store, ClearEmptiesTheItemsAndKeepsEverythingElse)
               QStringList({" 29", " 7", "item 8"}));
     EXPECT_EQ(std::make_pair(probe.scrollValue(), probe.scrollMaximum()), std::make_pair(5, 29));
     EXPECT_FALSE(probe.canvasHidden());
-    EXPECT_TRUE(Blank(list->canvas(), olecolor::ToQColor(olecolor::WindowBackground).rgb()));
+    EXPECT_TRUE(blank(list->canvas(), olecolor::toQColor(olecolor::WindowBackground).rgb()));
 }
 
 TEST_F(Store, RemovingTheOnlyItemHidesTheListUntilModeIsAssigned)
 {
     list->DropDownHeight(3000);
     list->Mode(0);
-    Add(*list, "only", 0);
+    add(*list, "only", 0);
     probe.Text1("only");
     probe.ChosenIndex(" 0");
     list->RemoveItem(0);
@@ -108,7 +108,7 @@ TEST_F(Store, RemovingTheOnlyItemHidesTheListUntilModeIsAssigned)
     EXPECT_EQ(list->state().TopRow, -1);
     EXPECT_EQ(probe.Text1() + probe.ChosenIndex(), "");
     EXPECT_EQ(probe.itemsUpperBound(), 0);
-    Add(*list, "again", 0);
+    add(*list, "again", 0);
     EXPECT_TRUE(probe.canvasHidden());
     list->Mode(0);
     EXPECT_FALSE(probe.canvasHidden());
@@ -116,13 +116,13 @@ TEST_F(Store, RemovingTheOnlyItemHidesTheListUntilModeIsAssigned)
 
 TEST(RemoveItem, PacksTheRestRepaintsAndIgnoresWhatIsOutOfRange)
 {
-    auto list = WhiteList(20);
+    auto list = whiteList(20);
     ListProbe probe(*list);
     list->ShowItem(2);
     list->RemoveItem(1);
     list->RemoveItem(19);
     list->RemoveItem(-1);
-    EXPECT_EQ(Texts(*list).mid(0, 3), QStringList({"item 1", "item 3", "item 4"}));
+    EXPECT_EQ(texts(*list).mid(0, 3), QStringList({"item 1", "item 3", "item 4"}));
     EXPECT_EQ(list->ListCount(), AnyValue(19));
     EXPECT_EQ(probe.itemsUpperBound(), 19);
     EXPECT_EQ(probe.scrollMaximum(), 18);
@@ -130,40 +130,40 @@ TEST(RemoveItem, PacksTheRestRepaintsAndIgnoresWhatIsOutOfRange)
     EXPECT_EQ(probe.Text1(), "");
     EXPECT_EQ(probe.ChosenIndex(), " 1");
     EXPECT_EQ(list->state().SelectedRow, -1);
-    auto same = WhiteList(0);
-    AppendTexts(*same, Texts(*list));
+    auto same = whiteList(0);
+    appendTexts(*same, texts(*list));
     ListProbe(*same).DrawRows(2, list->state().BottomRow);
     EXPECT_EQ(list->canvas(), same->canvas());
 }
 
 TEST_F(Store, ItemDataListAndListIndex)
 {
-    AppendItems(*list, 3);
+    appendItems(*list, 3);
     EXPECT_EQ(list->GetItemData(1), AnyValue(0));
     list->SetItemData(1, 42.5);
     EXPECT_EQ(probe.record(2).section('\t', 0, 1), "item 2\t 42.5");
     // -1 names the item added last, which for a top insert is item 0.
-    Add(*list, "newest", -1);
+    add(*list, "newest", -1);
     list->SetItemData(-1, -7);
     EXPECT_EQ(list->GetItemData(0), AnyValue(-7));
     // Out of range: the empty value, neither 0 nor "", and writes go nowhere.
     EXPECT_TRUE(list->GetItemData(4).isEmpty());
     EXPECT_TRUE(list->GetItemData(-1).isEmpty());
     EXPECT_EQ(list->List(4), AnyValue(""));
-    const std::vector<QString> before = Records(*list);
+    const std::vector<QString> before = records(*list);
     list->SetItemData(9, 1);
     list->SetItemData(-2, 1);
     list->List(0, "changed");
-    EXPECT_EQ(Records(*list), before);
+    EXPECT_EQ(records(*list), before);
     EXPECT_EQ(list->state().ListStore, AnyValue("changed"));
-    EXPECT_EQ(ErrorCode([&] { list->SetItemData(0, "many"); }), ListErrorCode::TypeMismatch);
+    EXPECT_EQ(errorCode([&] { list->SetItemData(0, "many"); }), ListErrorCode::TypeMismatch);
     // ListIndex reads the choice and stores what it is given.
     probe.ChosenIndex(" 3");
     list->ListIndex(2);
     EXPECT_EQ(list->ListIndex(), AnyValue(3));
-    EXPECT_EQ(ErrorCode([&] { list->ListCount(3); }), ListErrorCode::NotAtRunTime);
+    EXPECT_EQ(errorCode([&] { list->ListCount(3); }), ListErrorCode::NotAtRunTime);
     list->setDesignTime(true);
-    EXPECT_EQ(ErrorCode([&] { list->ListIndex(3); }), ListErrorCode::NotAtDesignTime);
+    EXPECT_EQ(errorCode([&] { list->ListIndex(3); }), ListErrorCode::NotAtDesignTime);
     EXPECT_EQ(list->state().ListIndexStore, AnyValue(2));
 }
 
@@ -174,36 +174,36 @@ TEST_F(Store, PastTheLargestListTheScrollBarAndTheSortOverflow)
     QStringList falling;
     for (int i = 32768; i > 0; --i)
         falling << QString::number(i);
-    AppendTexts(*list, falling);
+    appendTexts(*list, falling);
     EXPECT_EQ(probe.scrollMaximum(), 32767);
-    EXPECT_EQ(ErrorCode([&] { list->SortAscending(); }), ListErrorCode::Overflow);
+    EXPECT_EQ(errorCode([&] { list->SortAscending(); }), ListErrorCode::Overflow);
     EXPECT_EQ(list->List(0), AnyValue("32768"));
-    EXPECT_EQ(ErrorCode([&] { Add(*list, "one too many", 0); }), ListErrorCode::Overflow);
+    EXPECT_EQ(errorCode([&] { add(*list, "one too many", 0); }), ListErrorCode::Overflow);
     EXPECT_EQ(list->List(32768), AnyValue("one too many"));
 }
 
 TEST_F(Store, PicturesNeedAnImageListThatHasThem)
 {
     list->DrawStyle(1);
-    EXPECT_EQ(ErrorCode([&] { AddFull(*list, "x", 0, 1, 0); }), ListErrorCode::ObjectNotSet);
+    EXPECT_EQ(errorCode([&] { addFull(*list, "x", 0, 1, 0); }), ListErrorCode::ObjectNotSet);
     list->PictureList(std::make_shared<ImageList>());
-    list->PictureList()->Add(QImage(16, 16, QImage::Format_RGB32));
-    EXPECT_EQ(ErrorCode([&] { AddFull(*list, "x", 0, 2, 0); }),
+    list->PictureList()->add(QImage(16, 16, QImage::Format_RGB32));
+    EXPECT_EQ(errorCode([&] { addFull(*list, "x", 0, 2, 0); }),
               ListErrorCode::ImageIndexOutOfBounds);
     EXPECT_EQ(list->ListCount(), AnyValue(0));
-    EXPECT_EQ(ErrorCode([&] { AddFull(*list, "x", 0, 1, 0); }), 0);
+    EXPECT_EQ(errorCode([&] { addFull(*list, "x", 0, 1, 0); }), 0);
 }
 
 // Not on the screen, so that no repaint rewrites the drawn widths.
 TEST(Updating, EachOperationReplacesItsOwnColumnOnlyAndBadArgumentsNone)
 {
-    auto list = LoadedList();
-    AppendItems(*list, 5);
-    std::vector<QString> expected = Records(*list);
+    auto list = loadedList();
+    appendItems(*list, 5);
+    std::vector<QString> expected = records(*list);
     const auto set = [&](int it, int column, const QString& text) {
         QStringList columns = Split(expected[it]);
         columns[column] = text;
-        expected[it] = Join(columns);
+        expected[it] = join(columns);
     };
     list->UpdateText(0, "new");
     set(0, Text, "new");
@@ -219,10 +219,10 @@ TEST(Updating, EachOperationReplacesItsOwnColumnOnlyAndBadArgumentsNone)
     list->UpdateText(-1, "x");
     list->UpdateForeColor(5, Red);
     // Beyond 16 bits the index itself overflows.
-    EXPECT_EQ(ErrorCode([&] { list->UpdateText(40000.0, "x"); }), ListErrorCode::Overflow);
-    EXPECT_EQ(ErrorCode([&] { list->UpdateItemData(0, "twelve"); }), ListErrorCode::TypeMismatch);
-    EXPECT_EQ(ErrorCode([&] { list->UpdateIcon(0, "3 pictures"); }), ListErrorCode::TypeMismatch);
-    EXPECT_EQ(Records(*list), expected);
+    EXPECT_EQ(errorCode([&] { list->UpdateText(40000.0, "x"); }), ListErrorCode::Overflow);
+    EXPECT_EQ(errorCode([&] { list->UpdateItemData(0, "twelve"); }), ListErrorCode::TypeMismatch);
+    EXPECT_EQ(errorCode([&] { list->UpdateIcon(0, "3 pictures"); }), ListErrorCode::TypeMismatch);
+    EXPECT_EQ(records(*list), expected);
     // The chosen text stays as it was chosen.
     list->ShowItem(3);
     list->UpdateText(2, "renamed");
@@ -231,7 +231,7 @@ TEST(Updating, EachOperationReplacesItsOwnColumnOnlyAndBadArgumentsNone)
 
 TEST(Updating, OnlyAnItemOnAPaintedCanvasRepaintsThePage)
 {
-    auto list = WhiteList(20);
+    auto list = whiteList(20);
     list->ShowItem(3);
     const QImage before = list->canvas();
     list->UpdateForeColor(0, Red);
@@ -239,9 +239,9 @@ TEST(Updating, OnlyAnItemOnAPaintedCanvasRepaintsThePage)
     EXPECT_EQ(list->canvas(), before);
     // Item 4 is the second row: its text turns red, and the mark goes.
     list->UpdateForeColor(3, Red);
-    EXPECT_FALSE(RowMarked(*list, 0));
+    EXPECT_FALSE(rowMarked(*list, 0));
     EXPECT_EQ(list->state().SelectedRow, 0);
-    const int row = PixelsDown(list->state().RowTwips);
+    const int row = pixelsDown(list->state().RowTwips);
     int red = 0;
     for (int y = row; y < 2 * row; ++y)
         for (int x = 0; x < list->canvas().width(); ++x)
@@ -249,7 +249,7 @@ TEST(Updating, OnlyAnItemOnAPaintedCanvasRepaintsThePage)
                 qRed(list->canvas().pixel(x, y)) > 200 && qGreen(list->canvas().pixel(x, y)) < 100;
     EXPECT_GT(red, 10);
 
-    auto unpainted = UnpaintedList(3);
+    auto unpainted = unpaintedList(3);
     const QImage blank = unpainted->canvas();
     unpainted->UpdateForeColor(0, Red);
     EXPECT_EQ(unpainted->canvas(), blank);
@@ -272,13 +272,13 @@ protected:
     // The pointer steps across as well, so that each call is a move of its own.
     QString tipOver(int row)
     {
-        const int y = PixelsDown((row + 0.5) * list->state().RowTwips);
+        const int y = pixelsDown((row + 0.5) * list->state().RowTwips);
         QTest::mouseMove(probe.canvasWidget(), QPoint(20 + (++moves % 2), y));
         return probe.canvasWidget()->toolTip();
     }
 
     const QString wide = QString("W").repeated(80);
-    std::unique_ptr<UserControl1> list = WhiteList(3);
+    std::unique_ptr<UserControl1> list = whiteList(3);
     ListProbe probe{*list};
     int moves = 0;
 };
@@ -289,7 +289,7 @@ TEST_F(HoverTip, OnlyARowWiderThanTheCanvasShowsItsText)
     EXPECT_EQ(tipOver(0), "");
     // The test is strictly greater; a row never painted has an empty width, read as 0.
     const QString canvasWidth =
-        moveslist::numberText(HalfEven(probe.canvasWidth() * TwipsPerPixelX()));
+        moveslist::numberText(halfEven(probe.canvasWidth() * twipsPerPixelX()));
     probe.column(3, DrawnWidth, canvasWidth);
     EXPECT_EQ(tipOver(2), "");
     probe.column(3, DrawnWidth, moveslist::numberText(canvasWidth.toInt() + 1));

@@ -6,7 +6,7 @@
 
 namespace {
 
-void AddOnTop(UserControl1& list, const QString& text)
+void addOnTop(UserControl1& list, const QString& text)
 {
     QString s = text;
     list.Additem(s, -1);
@@ -19,45 +19,45 @@ struct RowMeasures {
     int viewHeight;
 };
 
-RowMeasures ExpectedMeasures(const UserControl1& list, int dropDownHeight)
+RowMeasures expectedMeasures(const UserControl1& list, int dropDownHeight)
 {
-    const int rowTwips = static_cast<int>(HalfEven(HalfEven(MeasuredTextHeight(list)) * 1.2));
+    const int rowTwips = static_cast<int>(halfEven(halfEven(measuredTextHeight(list)) * 1.2));
     const int rows = dropDownHeight / rowTwips;
     // Without a border the fit leaves two pixels short of the rows.
-    const double height = rows * rowTwips - TwipsPerPixelX() * 2;
-    return {rowTwips, rows, static_cast<int>(HalfEven(height))};
+    const double height = rows * rowTwips - twipsPerPixelX() * 2;
+    return {rowTwips, rows, static_cast<int>(halfEven(height))};
 }
 
 class MovesListLayout : public ::testing::Test {
 protected:
-    std::unique_ptr<UserControl1> list = MovesListAsSetUp();
+    std::unique_ptr<UserControl1> list = movesListAsSetUp();
     ListProbe probe{*list};
 };
 
 TEST_F(MovesListLayout, TheFirstLineMeasuresTheRowsFromTheFont)
 {
     // The block's 10028 hundredths of a millimetre across and its font.
-    EXPECT_EQ(list->width(), static_cast<int>(HalfEven(10028 * 1440.0 / 2540 / TwipsPerPixelX())));
+    EXPECT_EQ(list->width(), static_cast<int>(halfEven(10028 * 1440.0 / 2540 / twipsPerPixelX())));
     EXPECT_EQ(list->Fontname(), "MS Sans Serif");
     // BorderStyle 0 came after Mode, so the height still has the bordered allowance.
     EXPECT_FALSE(probe.canvasHidden() || probe.scrollBarHidden());
-    EXPECT_EQ(list->height(), PixelsDown(3750 + 48));
-    EXPECT_EQ(probe.canvasHeight(), PixelsDown(3750));
+    EXPECT_EQ(list->height(), pixelsDown(3750 + 48));
+    EXPECT_EQ(probe.canvasHeight(), pixelsDown(3750));
 
-    const RowMeasures expected = ExpectedMeasures(*list, 3750);
-    AddOnTop(*list, "first line");
+    const RowMeasures expected = expectedMeasures(*list, 3750);
+    addOnTop(*list, "first line");
     const ListState& st = list->state();
     EXPECT_EQ(st.RowTwips, expected.rowTwips);
     EXPECT_EQ(st.TextTwips, expected.rowTwips);
     EXPECT_EQ(st.RowsInView, expected.rows);
     EXPECT_EQ(st.ViewHeight, expected.viewHeight);
-    EXPECT_EQ(st.PixelTwipsY, HalfEven(TwipsPerPixelY()));
-    EXPECT_EQ(probe.canvasHeight(), PixelsDown(expected.viewHeight));
-    EXPECT_EQ(list->height(), PixelsDown(double(expected.rowTwips) * expected.rows));
+    EXPECT_EQ(st.PixelTwipsY, halfEven(twipsPerPixelY()));
+    EXPECT_EQ(probe.canvasHeight(), pixelsDown(expected.viewHeight));
+    EXPECT_EQ(list->height(), pixelsDown(double(expected.rowTwips) * expected.rows));
     // The new height ran the layout inside the write, which left TopRow at -1.
     EXPECT_EQ(st.TopRow, -1);
     EXPECT_EQ(st.BottomRow, 1);
-    if (MeasuredTextHeight(*list) == 195 && TwipsPerPixelY() == 15) {
+    if (measuredTextHeight(*list) == 195 && twipsPerPixelY() == 15) {
         EXPECT_EQ(st.RowTwips, 234);
         EXPECT_EQ(st.RowsInView, 16);
         EXPECT_EQ(st.ViewHeight, 3714);
@@ -65,7 +65,7 @@ TEST_F(MovesListLayout, TheFirstLineMeasuresTheRowsFromTheFont)
     // A second first item leaves the measures alone.
     const ListState before = st;
     list->Clear();
-    AddOnTop(*list, "first again");
+    addOnTop(*list, "first again");
     EXPECT_EQ(std::make_tuple(st.RowTwips, st.RowsInView, st.ViewHeight),
               std::make_tuple(before.RowTwips, before.RowsInView, before.ViewHeight));
 }
@@ -76,8 +76,8 @@ TEST_F(MovesListLayout, AFontFromTheHostIsTheOneRowsAreMeasuredWith)
     larger.setPointSizeF(14);
     list->setFont(larger);
     EXPECT_FLOAT_EQ(list->FontSize(), 14);
-    const RowMeasures expected = ExpectedMeasures(*list, 3750);
-    AddOnTop(*list, "first line");
+    const RowMeasures expected = expectedMeasures(*list, 3750);
+    addOnTop(*list, "first line");
     EXPECT_EQ(list->state().RowTwips, expected.rowTwips);
     EXPECT_EQ(list->state().ItemFontName, "Serif");
 }
@@ -85,38 +85,38 @@ TEST_F(MovesListLayout, AFontFromTheHostIsTheOneRowsAreMeasuredWith)
 TEST_F(MovesListLayout, EachLineOnTopRepaintsFromItemOneAndLeavesTheThumb)
 {
     for (int i = 1; i <= 3; ++i)
-        AddOnTop(*list, QStringLiteral("line %1").arg(i));
+        addOnTop(*list, QStringLiteral("line %1").arg(i));
     EXPECT_EQ(list->List(0), AnyValue("line 3"));
     EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
               std::make_pair(int16_t(1), int16_t(3)));
     EXPECT_EQ(probe.scrollMaximum(), 2);
     probe.setScrollValue(1);
-    AddOnTop(*list, "line 4");
+    addOnTop(*list, "line 4");
     EXPECT_EQ(list->state().TopRow, 1);
     EXPECT_EQ(probe.scrollValue(), 1);
 }
 
 TEST(RowHeight, SetBeforeTheFirstItemIsHonouredAndZeroIsRefused)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->DropDownHeight(3000);
     list->Mode(0);
     list->RowHeight(300);
     const ListState& st = list->state();
     EXPECT_EQ(st.RowsInView, 10);
-    EXPECT_EQ(st.ViewHeight, HalfEven(3000 + TwipsPerPixelX() * 2));
-    AppendItems(*list, 1);
+    EXPECT_EQ(st.ViewHeight, halfEven(3000 + twipsPerPixelX() * 2));
+    appendItems(*list, 1);
     EXPECT_EQ(st.RowTwips, 300);
     EXPECT_EQ(list->RowHeight(), AnyValue(300));
-    EXPECT_EQ(ErrorCode([&] { list->RowHeight(0); }), ListErrorCode::InvalidPropertyValue);
+    EXPECT_EQ(errorCode([&] { list->RowHeight(0); }), ListErrorCode::InvalidPropertyValue);
     EXPECT_EQ(st.RowTwips, 300);
     // Measured by the first item, it reads 0.
-    EXPECT_EQ(UnpaintedList(1)->RowHeight(), AnyValue(0));
+    EXPECT_EQ(unpaintedList(1)->RowHeight(), AnyValue(0));
 }
 
 TEST(RowHeight, FittingTwiceWithoutBorderLosesARow)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->BorderStyle(0);
     list->DropDownHeight(3000);
     list->RowHeight(250);
@@ -127,9 +127,9 @@ TEST(RowHeight, FittingTwiceWithoutBorderLosesARow)
 
 TEST(RowHeight, SetAfterTheFirstItemKeepsTheCanvasHeight)
 {
-    auto list = MovesListAsSetUp();
+    auto list = movesListAsSetUp();
     ListProbe probe(*list);
-    AppendItems(*list, 3);
+    appendItems(*list, 3);
     const int canvasHeight = probe.canvasHeight();
     const int16_t rows = list->state().RowsInView;
     list->RowHeight(list->state().RowTwips * 2);
@@ -139,9 +139,9 @@ TEST(RowHeight, SetAfterTheFirstItemKeepsTheCanvasHeight)
 
 class Scrolling : public ::testing::Test {
 protected:
-    void SetUp() override { AppendItems(*list, 40); }
+    void SetUp() override { appendItems(*list, 40); }
 
-    std::unique_ptr<UserControl1> list = MovesListAsSetUp();
+    std::unique_ptr<UserControl1> list = movesListAsSetUp();
     ListProbe probe{*list};
 };
 
@@ -163,7 +163,7 @@ TEST_F(Scrolling, AdditemAfterClearPullsTheBarDownAndRepaintsInsideTheCall)
     probe.setScrollValue(10);
     list->Clear();
     EXPECT_EQ(list->state().TopRow, 11);
-    AddOnTop(*list, "fresh");
+    addOnTop(*list, "fresh");
     EXPECT_EQ(probe.scrollValue(), 0);
     EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
               std::make_pair(int16_t(1), int16_t(1)));
@@ -183,9 +183,9 @@ TEST_F(Scrolling, AResizeMovesAListOfItemsToValueOne)
 
 TEST(Resizing, WidthRefitsTheCanvasHeightMovesNothingAndOneItemStaysOnTop)
 {
-    auto list = MovesListAsSetUp();
+    auto list = movesListAsSetUp();
     ListProbe probe(*list);
-    AppendItems(*list, 1);
+    appendItems(*list, 1);
     const QImage before = list->canvas().copy();
     const ListState measures = list->state();
     const int scrollBar = list->width() - probe.canvasWidth();

@@ -28,7 +28,7 @@ ListEvents::ListEvents(UserControl1& list)
                      [this](int16_t&, int16_t&, float&, float&) { ++MouseDown; });
 }
 
-QPoint RowPoint(const UserControl1& list, int row)
+QPoint rowPoint(const UserControl1& list, int row)
 {
-    return QPoint(30, PixelsDown((row + 0.5) * list.state().RowTwips));
+    return QPoint(30, pixelsDown((row + 0.5) * list.state().RowTwips));
 }

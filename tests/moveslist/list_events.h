@@ -32,4 +32,4 @@ public:
 };
 
 // The middle of canvas row `row`, 30 pixels in.
-QPoint RowPoint(const UserControl1& list, int row);
+QPoint rowPoint(const UserControl1& list, int row);

@@ -11,76 +11,76 @@
 #include <algorithm>
 #include <cmath>
 
-double TwipsPerPixelY()
+double twipsPerPixelY()
 {
     return 1440.0 / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
 }
 
-double TwipsPerPixelX()
+double twipsPerPixelX()
 {
     return 1440.0 / QGuiApplication::primaryScreen()->logicalDotsPerInchX();
 }
 
-double HalfEven(double v)
+double halfEven(double v)
 {
     if (std::abs(v - std::trunc(v)) == 0.5)
         return 2 * std::round(v / 2);
     return std::round(v);
 }
 
-int PixelsDown(double twips)
+int pixelsDown(double twips)
 {
-    return static_cast<int>(HalfEven(twips / TwipsPerPixelY()));
+    return static_cast<int>(halfEven(twips / twipsPerPixelY()));
 }
 
-double MeasuredTextHeight(const UserControl1& list)
+double measuredTextHeight(const UserControl1& list)
 {
     QFont font(list.Fontname());
     font.setPointSizeF(list.FontSize());
-    return QFontMetrics(font).height() * TwipsPerPixelY();
+    return QFontMetrics(font).height() * twipsPerPixelY();
 }
 
-std::unique_ptr<UserControl1> LoadedList()
+std::unique_ptr<UserControl1> loadedList()
 {
-    return std::unique_ptr<UserControl1>(UserControl1::FromBlock(lbblock::Write(PropertyBag())));
+    return std::unique_ptr<UserControl1>(UserControl1::fromBlock(lbblock::write(PropertyBag())));
 }
 
-std::unique_ptr<UserControl1> MovesListAsSetUp()
+std::unique_ptr<UserControl1> movesListAsSetUp()
 {
-    std::unique_ptr<UserControl1> list(UserControl1::FromBlock(MovesListBlock()));
+    std::unique_ptr<UserControl1> list(UserControl1::fromBlock(movesListBlock()));
     setUpMovesLog(*list);
     return list;
 }
 
-std::unique_ptr<UserControl1> UnpaintedList(int items)
+std::unique_ptr<UserControl1> unpaintedList(int items)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->DropDownHeight(2000);
     list->Mode(0);
-    AppendItems(*list, items);
+    appendItems(*list, items);
     return list;
 }
 
-std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight)
+std::unique_ptr<UserControl1> whiteList(int items, int16_t dropDownHeight)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->resize(300, 200);
     list->BackColor(0x00FFFFFF);
     list->DropDownHeight(dropDownHeight);
     list->Mode(0);
-    AppendItems(*list, items);
+    appendItems(*list, items);
     ListProbe(*list).DrawRows(1, list->state().RowsInView);
     return list;
 }
 
-bool RowMarked(const UserControl1& list, int row)
+bool rowMarked(const UserControl1& list, int row)
 {
     const ListState& st = list.state();
-    const int y = PixelsDown((row + 0.5) * st.RowTwips);
+    const int y = pixelsDown((row + 0.5) * st.RowTwips);
     return (list.canvas().pixel(list.canvas().width() - 3, y) & 0xFFFFFF) != 0xFFFFFF;
 }
 
-bool Blank(const QImage& image, QRgb colour, int top)
+bool blank(const QImage& image, QRgb colour, int top)
 {
     for (int y = std::max(top, 0); y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
@@ -89,7 +89,7 @@ bool Blank(const QImage& image, QRgb colour, int top)
     return true;
 }
 
-void AppendItems(UserControl1& list, int n)
+void appendItems(UserControl1& list, int n)
 {
     for (int i = 1; i <= n; ++i) {
         QString s = QStringLiteral("item %1").arg(i);
@@ -97,13 +97,13 @@ void AppendItems(UserControl1& list, int n)
     }
 }
 
-void AppendTexts(UserControl1& list, const QStringList& texts)
+void appendTexts(UserControl1& list, const QStringList& texts)
 {
     for (QString s : texts)
         list.Additem(s);
 }
 
-std::pair<int16_t, int32_t> AddFull(UserControl1& list, const QString& text, int16_t itemx,
+std::pair<int16_t, int32_t> addFull(UserControl1& list, const QString& text, int16_t itemx,
                                     int16_t ipic, int32_t colour, const QString& font)
 {
     QString s = text;
@@ -112,7 +112,7 @@ std::pair<int16_t, int32_t> AddFull(UserControl1& list, const QString& text, int
     return {ipic, colour};
 }
 
-QStringList Texts(const UserControl1& list)
+QStringList texts(const UserControl1& list)
 {
     QStringList texts;
     for (int it = 0; it < list.ListCount().toNumber(); ++it)
@@ -120,7 +120,7 @@ QStringList Texts(const UserControl1& list)
     return texts;
 }
 
-std::vector<QString> Records(UserControl1& list)
+std::vector<QString> records(UserControl1& list)
 {
     ListProbe probe(list);
     std::vector<QString> records;
@@ -129,7 +129,7 @@ std::vector<QString> Records(UserControl1& list)
     return records;
 }
 
-int ErrorCode(const std::function<void()>& call)
+int errorCode(const std::function<void()>& call)
 {
     try {
         call();

@@ -46,19 +46,19 @@ public:
     void Text1(const QString& text) { list.Text1->setText(text); }
 
     // The upper bound of Items: -1 while it has no storage.
-    int itemsUpperBound() const { return static_cast<int>(list.st.Items.size()) - 1; }
+    int itemsUpperBound() const { return static_cast<int>(list.m_state.Items.size()) - 1; }
     // The whole record of item i (from 1), as stored.
-    QString record(int item) const { return list.st.Items.at(static_cast<size_t>(item)); }
+    QString record(int item) const { return list.m_state.Items.at(static_cast<size_t>(item)); }
     // Column c of item i (from 1), as stored.
     QString column(int item, int c) const
     {
-        return itemrecord::Split(list.st.Items.at(static_cast<size_t>(item))).value(c);
+        return itemrecord::Split(list.m_state.Items.at(static_cast<size_t>(item))).value(c);
     }
     void column(int item, int c, const QString& text)
     {
-        QStringList columns = itemrecord::Split(list.st.Items.at(static_cast<size_t>(item)));
+        QStringList columns = itemrecord::Split(list.m_state.Items.at(static_cast<size_t>(item)));
         columns[c] = text;
-        list.st.Items[static_cast<size_t>(item)] = itemrecord::Join(columns);
+        list.m_state.Items[static_cast<size_t>(item)] = itemrecord::join(columns);
     }
 
 private:
@@ -82,39 +82,39 @@ inline void PrintTo(const QString& text, std::ostream* out)
 }
 
 // The screen's twips per pixel, down and across.
-double TwipsPerPixelY();
-double TwipsPerPixelX();
+double twipsPerPixelY();
+double twipsPerPixelX();
 // R(v) written out again for the expectations: a half goes to the even neighbour.
-double HalfEven(double v);
-int PixelsDown(double twips);
+double halfEven(double v);
+int pixelsDown(double twips);
 // Height of "M" in twips in the list's measuring font, as the desktop reports it.
-double MeasuredTextHeight(const UserControl1& list);
+double measuredTextHeight(const UserControl1& list);
 
 // A control as a form loads it from a block with no settings of its own.
-std::unique_ptr<UserControl1> LoadedList();
+std::unique_ptr<UserControl1> loadedList();
 // The game's log as the main window sets it up.
-std::unique_ptr<UserControl1> MovesListAsSetUp();
+std::unique_ptr<UserControl1> movesListAsSetUp();
 // A list shown in list mode with items "item 1" .. "item n", never painted: TopRow
 // stays -1.
-std::unique_ptr<UserControl1> UnpaintedList(int items = 0);
+std::unique_ptr<UserControl1> unpaintedList(int items = 0);
 // A plain list 300 pixels wide on a white canvas, shown from item 1, as a host would
 // set one up; not on the screen.
-std::unique_ptr<UserControl1> WhiteList(int items, int16_t dropDownHeight = 2000);
+std::unique_ptr<UserControl1> whiteList(int items, int16_t dropDownHeight = 2000);
 // Whether the strip of canvas row `row` is inverted: read at the canvas' right end,
 // where no text reaches.
-bool RowMarked(const UserControl1& list, int row);
+bool rowMarked(const UserControl1& list, int row);
 // Whether every pixel of the image from line `top` down is `colour`.
-bool Blank(const QImage& image, QRgb colour, int top = 0);
+bool blank(const QImage& image, QRgb colour, int top = 0);
 // Appends items "item 1" .. "item n".
-void AppendItems(UserControl1& list, int n);
+void appendItems(UserControl1& list, int n);
 // Appends one item per text, in order.
-void AppendTexts(UserControl1& list, const QStringList& texts);
+void appendTexts(UserControl1& list, const QStringList& texts);
 // Additem with all five arguments; gives ipic and ItemColor as the list settled them.
-std::pair<int16_t, int32_t> AddFull(UserControl1& list, const QString& text, int16_t itemx,
+std::pair<int16_t, int32_t> addFull(UserControl1& list, const QString& text, int16_t itemx,
                                     int16_t ipic, int32_t colour, const QString& font = {});
 // The texts of all items, first to last.
-QStringList Texts(const UserControl1& list);
+QStringList texts(const UserControl1& list);
 // The whole records of all items, first to last.
-std::vector<QString> Records(UserControl1& list);
+std::vector<QString> records(UserControl1& list);
 // The code of the ListError a call ends in, or 0 when it ends normally.
-int ErrorCode(const std::function<void()>& call);
+int errorCode(const std::function<void()>& call);

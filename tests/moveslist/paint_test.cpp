@@ -15,18 +15,18 @@ namespace {
 constexpr int32_t White = 0x00FFFFFF;
 constexpr QRgb WhitePixel = 0xFFFFFFFF;
 
-bool Ink(QRgb pixel)
+bool ink(QRgb pixel)
 {
     return (pixel & 0xFFFFFF) != 0xFFFFFF;
 }
 
 // The first inked pixel row and column inside the rows [top, bottom) of an image.
-std::optional<QPoint> FirstInk(const QImage& canvas, int top, int bottom)
+std::optional<QPoint> firstInk(const QImage& canvas, int top, int bottom)
 {
     std::optional<QPoint> first;
     for (int y = std::max(0, top); y < std::min(bottom, canvas.height()); ++y)
         for (int x = 0; x < canvas.width(); ++x)
-            if (Ink(canvas.pixel(x, y))) {
+            if (ink(canvas.pixel(x, y))) {
                 if (!first)
                     first = QPoint(x, y);
                 first->setX(std::min(first->x(), x));
@@ -36,7 +36,7 @@ std::optional<QPoint> FirstInk(const QImage& canvas, int top, int bottom)
 
 // Where the ink of a text starts when it is printed with its top at (0, 0), worked out
 // on an image of our own.
-QPoint InkOffset(const QFont& font, const QString& text)
+QPoint inkOffset(const QFont& font, const QString& text)
 {
     QImage image(200, 60, QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -44,7 +44,7 @@ QPoint InkOffset(const QFont& font, const QString& text)
     painter.setFont(font);
     painter.drawText(QPoint(0, QFontMetrics(font, &image).ascent()), text);
     painter.end();
-    return FirstInk(image, 0, image.height()).value_or(QPoint());
+    return firstInk(image, 0, image.height()).value_or(QPoint());
 }
 
 class Painting : public ::testing::Test {
@@ -60,7 +60,7 @@ protected:
     void addRows(int n)
     {
         for (int i = 0; i < n; ++i)
-            AddFull(*list, QStringLiteral("MMMM"), 0, -1, 0);
+            addFull(*list, QStringLiteral("MMMM"), 0, -1, 0);
     }
 
     QFont rowFont() const
@@ -75,23 +75,23 @@ protected:
     int textTop(int k) const
     {
         const ListState& st = list->state();
-        const double top = HalfEven((st.RowTwips - st.TextTwips) / 2.0 + k * st.RowTwips);
-        return static_cast<int>(HalfEven(top / HalfEven(TwipsPerPixelY())));
+        const double top = halfEven((st.RowTwips - st.TextTwips) / 2.0 + k * st.RowTwips);
+        return static_cast<int>(halfEven(top / halfEven(twipsPerPixelY())));
     }
 
     void expectTextRows(int rows)
     {
-        const QPoint ink = InkOffset(rowFont(), QStringLiteral("MMMM"));
-        const int left = static_cast<int>(HalfEven(48 / HalfEven(TwipsPerPixelX())));
+        const QPoint ink = inkOffset(rowFont(), QStringLiteral("MMMM"));
+        const int left = static_cast<int>(halfEven(48 / halfEven(twipsPerPixelX())));
         for (int k = 0; k < rows; ++k) {
-            const auto found = FirstInk(list->canvas(), textTop(k), textTop(k + 1));
+            const auto found = firstInk(list->canvas(), textTop(k), textTop(k + 1));
             ASSERT_TRUE(found) << "row " << k;
             EXPECT_EQ(found->y(), textTop(k) + ink.y()) << "row " << k;
             EXPECT_EQ(found->x(), left + ink.x()) << "row " << k;
         }
     }
 
-    std::unique_ptr<UserControl1> list = LoadedList();
+    std::unique_ptr<UserControl1> list = loadedList();
     ListProbe probe{*list};
 };
 
@@ -100,7 +100,7 @@ TEST_F(Painting, TextRowsStandAtTheirOwnWholePixelCentredInTheRow)
     list->RowHeight(234);
     addRows(5);
     // With 15 twips to the pixel the rows start at pixels 0, 16, 31, 47 and 62.
-    if (TwipsPerPixelY() == 15 && list->state().TextTwips == 234) {
+    if (twipsPerPixelY() == 15 && list->state().TextTwips == 234) {
         EXPECT_EQ(QList<int>({textTop(1), textTop(2), textTop(4)}), QList<int>({16, 31, 62}));
     }
     expectTextRows(5);
@@ -117,10 +117,10 @@ TEST_F(Painting, TheRowsColumnFiveHoldsItsDrawnWidth)
     QString s = wide;
     list->Additem(s);
     const double width =
-        HalfEven(QFontMetrics(rowFont()).horizontalAdvance(wide) * TwipsPerPixelX());
+        halfEven(QFontMetrics(rowFont()).horizontalAdvance(wide) * twipsPerPixelX());
     EXPECT_EQ(probe.column(1, itemrecord::DrawnWidth), QString(" %1").arg(width));
     // Cut at the canvas' edge, with its full width kept for the tip.
-    EXPECT_GT(width, probe.canvasWidth() * TwipsPerPixelX());
+    EXPECT_GT(width, probe.canvasWidth() * twipsPerPixelX());
 }
 
 TEST_F(Painting, RowsPastTheLastItemStayBlankAndAHiddenCanvasIsNotRepainted)
@@ -128,19 +128,19 @@ TEST_F(Painting, RowsPastTheLastItemStayBlankAndAHiddenCanvasIsNotRepainted)
     addRows(3);
     probe.DrawRows(1, 10);
     EXPECT_EQ(list->state().BottomRow, 3);
-    EXPECT_FALSE(FirstInk(list->canvas(), textTop(3), list->canvas().height()));
+    EXPECT_FALSE(firstInk(list->canvas(), textTop(3), list->canvas().height()));
     probe.DrawRows(3, 2);
-    EXPECT_FALSE(FirstInk(list->canvas(), 0, list->canvas().height()));
+    EXPECT_FALSE(firstInk(list->canvas(), 0, list->canvas().height()));
     EXPECT_EQ(std::make_pair(list->state().TopRow, list->state().BottomRow),
               std::make_pair(int16_t(3), int16_t(2)));
 
     probe.hideCanvas();
     probe.DrawRows(1, 3);
-    EXPECT_FALSE(FirstInk(list->canvas(), 0, list->canvas().height()));
+    EXPECT_FALSE(firstInk(list->canvas(), 0, list->canvas().height()));
     EXPECT_EQ(list->state().TopRow, 3);
     // One row is still drawn, shown or not.
     probe.DrawOneRow(2);
-    EXPECT_TRUE(FirstInk(list->canvas(), 0, list->canvas().height()));
+    EXPECT_TRUE(firstInk(list->canvas(), 0, list->canvas().height()));
     EXPECT_EQ(list->state().BottomRow, 2);
 }
 
@@ -153,13 +153,13 @@ TEST_F(Painting, TheGridLineStandsTwoPixelsAboveTheRowsEndOrdWithTheInverseOfThe
     const QImage& canvas = list->canvas();
     const int x = canvas.width() - 2;
     for (int k = 0; k < 4; ++k) {
-        const int line = PixelsDown((k + 1.0) * list->state().RowTwips) - 2;
+        const int line = pixelsDown((k + 1.0) * list->state().RowTwips) - 2;
         EXPECT_EQ(QList<QRgb>({canvas.pixel(0, line), canvas.pixel(x, line),
                                canvas.pixel(x, line - 1), canvas.pixel(x, line + 1)}),
                   QList<QRgb>({0xFF000000, 0xFF000000, WhitePixel, WhitePixel}))
             << "row " << k;
     }
-    const int line = PixelsDown(list->state().RowTwips) - 2;
+    const int line = pixelsDown(list->state().RowTwips) - 2;
     list->GridColor(0x000000FF);
     probe.DrawRows(1, 1);
     EXPECT_EQ(list->canvas().pixel(1, line), qRgb(255, 0, 0));
@@ -176,8 +176,8 @@ TEST_F(Painting, TheStripIsInvertedByOneCallAndRestoredByTheNext)
     probe.InvertRowStrip(1);
     const QImage& after = list->canvas();
     const double rowTwips = list->state().RowTwips;
-    const int top = PixelsDown(rowTwips - 24);
-    const int bottom = PixelsDown(2 * rowTwips);
+    const int top = pixelsDown(rowTwips - 24);
+    const int bottom = pixelsDown(2 * rowTwips);
     for (int y = 0; y < after.height(); ++y)
         for (int x = 0; x < after.width(); ++x) {
             const QRgb was = before.pixel(x, y) & 0xFFFFFF;
@@ -206,15 +206,15 @@ protected:
     {
         QImage picture(width, height, QImage::Format_RGB32);
         picture.fill(qRgb(0, 255, 255));
-        pictures->Add(picture);
-        AddFull(*list, QStringLiteral("with picture"), 0, static_cast<int16_t>(pictures->Count()),
+        pictures->add(picture);
+        addFull(*list, QStringLiteral("with picture"), 0, static_cast<int16_t>(pictures->count()),
                 0);
     }
 
     // A point inside the picture's place on the first row.
     QRgb pictureArea() const
     {
-        return list->canvas().pixel(static_cast<int>(HalfEven(24 / TwipsPerPixelX())) + 2, 3) &
+        return list->canvas().pixel(static_cast<int>(halfEven(24 / twipsPerPixelX())) + 2, 3) &
                0xFFFFFF;
     }
 
@@ -229,14 +229,14 @@ TEST_F(RowPictures, APictureIsAndedWithTheRowOrCopied)
     EXPECT_EQ(pictureArea(), 0x00FF00u);
     EXPECT_EQ(
         probe.column(1, itemrecord::DrawnWidth).toInt() -
-            HalfEven(QFontMetrics(rowFont()).horizontalAdvance("with picture") * TwipsPerPixelX()),
+            halfEven(QFontMetrics(rowFont()).horizontalAdvance("with picture") * twipsPerPixelX()),
         234 + 96);
     list->Clear();
-    const int width = static_cast<int>(HalfEven(234 / TwipsPerPixelX()));
-    ASSERT_LT(width, HalfEven(254 / TwipsPerPixelX()));
+    const int width = static_cast<int>(halfEven(234 / twipsPerPixelX()));
+    ASSERT_LT(width, halfEven(254 / twipsPerPixelX()));
     addPictureRow(width, width);
     EXPECT_EQ(pictureArea(), 0x00FFFFu);
-    EXPECT_EQ(ErrorCode([&] { addPictureRow(4, 4); }), ListErrorCode::InvalidPicture);
+    EXPECT_EQ(errorCode([&] { addPictureRow(4, 4); }), ListErrorCode::InvalidPicture);
 }
 
 } // namespace

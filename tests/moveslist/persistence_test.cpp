@@ -26,23 +26,23 @@ constexpr int FontNameEntry = FirstEntry + 32 + 32;
 constexpr int FontSizeEntry = FontNameEntry + 60;
 
 // The block with a number written over it at `at`.
-template <typename T> QByteArray With(QByteArray block, int at, T value)
+template <typename T> QByteArray with(QByteArray block, int at, T value)
 {
     qToLittleEndian(value, block.data() + at);
     return block;
 }
 
-int ReadError(const QByteArray& block)
+int readError(const QByteArray& block)
 {
-    return ErrorCode([&] { lbblock::Read(block); });
+    return errorCode([&] { lbblock::read(block); });
 }
 
-std::unique_ptr<UserControl1> ListFrom(const PropertyBag& bag)
+std::unique_ptr<UserControl1> listFrom(const PropertyBag& bag)
 {
-    return std::unique_ptr<UserControl1>(UserControl1::FromBlock(lbblock::Write(bag)));
+    return std::unique_ptr<UserControl1>(UserControl1::fromBlock(lbblock::write(bag)));
 }
 
-QStringList Keys(const PropertyBag& bag)
+QStringList keys(const PropertyBag& bag)
 {
     QStringList keys;
     for (const PropertyEntry& entry : bag.entries())
@@ -52,7 +52,7 @@ QStringList Keys(const PropertyBag& bag)
 
 TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
 {
-    const PropertyBag bag = lbblock::Read(MovesListVector);
+    const PropertyBag bag = lbblock::read(MovesListVector);
     ASSERT_EQ(bag.entries().size(), 4u);
     const std::tuple<QString, PropertyType, AnyValue, uint32_t> expected[] = {
         {"_extentx", PropertyType::Long, 10028, 0x4757F20Bu},
@@ -65,23 +65,23 @@ TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
         EXPECT_EQ(std::make_tuple(e.key, e.type, e.value, e.hash), expected[i]) << i;
     }
     // Keys are found without regard to case.
-    EXPECT_EQ(bag.ReadProperty("FontName", {}), AnyValue("MS Sans Serif"));
-    EXPECT_EQ(MovesListBlock().toHex(), MovesListVector.toHex());
-    EXPECT_EQ(lbblock::Write(bag).toHex(), MovesListVector.toHex());
+    EXPECT_EQ(bag.readProperty("FontName", {}), AnyValue("MS Sans Serif"));
+    EXPECT_EQ(movesListBlock().toHex(), MovesListVector.toHex());
+    EXPECT_EQ(lbblock::write(bag).toHex(), MovesListVector.toHex());
 }
 
 TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
 {
     PropertyBag bag;
-    bag.WriteProperty("Small", PropertyType::Integer, -2, 0);
-    bag.WriteProperty("Colour", PropertyType::Long, int32_t(0x8000000F), 0);
-    bag.WriteProperty("Size", PropertyType::Single, 9.5, 0);
-    bag.WriteProperty("Ratio", PropertyType::Double, 1.0 / 3, 0);
-    bag.WriteProperty("Name", PropertyType::Text, QString::fromUtf8("Bö₤"), "0");
-    bag.WriteProperty("Blank", PropertyType::Text, "", "0");
-    bag.WriteProperty("Nothing", PropertyType::Empty, AnyValue(), 0);
-    bag.WriteObject("Data", QByteArray("\x01\x02\x03\x04\x05", 5));
-    const PropertyBag back = lbblock::Read(lbblock::Write(bag));
+    bag.writeProperty("Small", PropertyType::Integer, -2, 0);
+    bag.writeProperty("Colour", PropertyType::Long, int32_t(0x8000000F), 0);
+    bag.writeProperty("Size", PropertyType::Single, 9.5, 0);
+    bag.writeProperty("Ratio", PropertyType::Double, 1.0 / 3, 0);
+    bag.writeProperty("Name", PropertyType::Text, QString::fromUtf8("Bö₤"), "0");
+    bag.writeProperty("Blank", PropertyType::Text, "", "0");
+    bag.writeProperty("Nothing", PropertyType::Empty, AnyValue(), 0);
+    bag.writeObject("Data", QByteArray("\x01\x02\x03\x04\x05", 5));
+    const PropertyBag back = lbblock::read(lbblock::write(bag));
     ASSERT_EQ(back.entries().size(), bag.entries().size());
     for (size_t i = 0; i < bag.entries().size(); ++i) {
         const PropertyEntry& wrote = bag.entries()[i];
@@ -91,10 +91,10 @@ TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
                                   wrote.hash))
             << wrote.key.toStdString();
     }
-    EXPECT_TRUE(lbblock::Read(lbblock::Write(PropertyBag())).entries().empty());
+    EXPECT_TRUE(lbblock::read(lbblock::write(PropertyBag())).entries().empty());
     PropertyBag lone;
-    lone.WriteProperty("Mode", PropertyType::Integer, 1, 0);
-    EXPECT_EQ(lbblock::Read(lbblock::Write(lone)).ReadProperty("mode", 0), AnyValue(1));
+    lone.writeProperty("Mode", PropertyType::Integer, 1, 0);
+    EXPECT_EQ(lbblock::read(lbblock::write(lone)).readProperty("mode", 0), AnyValue(1));
 }
 
 // Dotted capital I lowers to two characters: a key that fits 16 bits before lowering
@@ -102,19 +102,19 @@ TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
 TEST(PropertyBlock, AKeyTooLongOnceLoweredIsRefused)
 {
     PropertyBag fits;
-    fits.WriteProperty(QString(32767, QLatin1Char('K')), PropertyType::Integer, 1, 0);
-    EXPECT_EQ(lbblock::Read(lbblock::Write(fits)).entries().size(), 1U);
+    fits.writeProperty(QString(32767, QLatin1Char('K')), PropertyType::Integer, 1, 0);
+    EXPECT_EQ(lbblock::read(lbblock::write(fits)).entries().size(), 1U);
     PropertyBag grows;
-    grows.WriteProperty(QString(16384, QChar(0x130)), PropertyType::Integer, 1, 0);
-    EXPECT_EQ(ErrorCode([&] { lbblock::Write(grows); }), ListErrorCode::Overflow);
+    grows.writeProperty(QString(16384, QChar(0x130)), PropertyType::Integer, 1, 0);
+    EXPECT_EQ(errorCode([&] { lbblock::write(grows); }), ListErrorCode::Overflow);
 }
 
 TEST(DamagedPropertyBlock, EveryCutIsRefusedAndNoControlIsMade)
 {
     for (int length = 0; length < MovesListVector.size(); ++length)
-        EXPECT_EQ(ReadError(MovesListVector.left(length)), ListErrorCode::InvalidFileFormat)
+        EXPECT_EQ(readError(MovesListVector.left(length)), ListErrorCode::InvalidFileFormat)
             << "cut at " << length;
-    EXPECT_EQ(ErrorCode([] { delete UserControl1::FromBlock(MovesListVector.left(100)); }),
+    EXPECT_EQ(errorCode([] { delete UserControl1::fromBlock(MovesListVector.left(100)); }),
               ListErrorCode::InvalidFileFormat);
 }
 
@@ -126,39 +126,39 @@ TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
     QByteArray unterminated = V;
     unterminated[FontNameEntry + 28 + 4 + 26] = 'x';
     PropertyBag padded;
-    padded.WriteProperty("ab", PropertyType::Integer, 3, 0); // 18 bytes, 2 of padding
-    QByteArray badPadding = lbblock::Write(padded);
-    ASSERT_EQ(ReadError(badPadding), 0);
+    padded.writeProperty("ab", PropertyType::Integer, 3, 0); // 18 bytes, 2 of padding
+    QByteArray badPadding = lbblock::write(padded);
+    ASSERT_EQ(readError(badPadding), 0);
     badPadding[badPadding.size() - 1] = 1;
     const QByteArray damaged[] = {
         signature,
-        With<uint16_t>(V, 3, 8),      // block kind
-        With<uint32_t>(V, 5, 165),    // byte count
-        With<uint32_t>(V, 9, 0xB294), // marker
-        With<uint32_t>(V, 13, 160),   // second byte count
+        with<uint16_t>(V, 3, 8),      // block kind
+        with<uint32_t>(V, 5, 165),    // byte count
+        with<uint32_t>(V, 9, 0xB294), // marker
+        with<uint32_t>(V, 13, 160),   // second byte count
         // Both counts agree but the block has bytes past its last entry.
-        With<uint32_t>(With<uint32_t>(V + QByteArray(4, '\0'), 5, 168), 13, 168),
-        With<uint16_t>(V, FirstEntry, 7),                     // unknown type
-        With<uint16_t>(V, FirstEntry + 2, 0),                 // no key
-        With<uint32_t>(V, FirstEntry + 8, 28),                // step inside itself
-        With<uint32_t>(V, FontSizeEntry + 8, uint32_t(-120)), // last step not to the first
-        With<uint32_t>(V, FontNameEntry + 28, 0xFFFFFFF0u),   // text longer than the block
+        with<uint32_t>(with<uint32_t>(V + QByteArray(4, '\0'), 5, 168), 13, 168),
+        with<uint16_t>(V, FirstEntry, 7),                     // unknown type
+        with<uint16_t>(V, FirstEntry + 2, 0),                 // no key
+        with<uint32_t>(V, FirstEntry + 8, 28),                // step inside itself
+        with<uint32_t>(V, FontSizeEntry + 8, uint32_t(-120)), // last step not to the first
+        with<uint32_t>(V, FontNameEntry + 28, 0xFFFFFFF0u),   // text longer than the block
         unterminated,
-        With<uint16_t>(V, FontSizeEntry, 5), // the last value longer than what is left
+        with<uint16_t>(V, FontSizeEntry, 5), // the last value longer than what is left
         badPadding,
     };
     for (size_t i = 0; i < std::size(damaged); ++i)
-        EXPECT_EQ(ReadError(damaged[i]), ListErrorCode::InvalidFileFormat) << "damage " << i;
+        EXPECT_EQ(readError(damaged[i]), ListErrorCode::InvalidFileFormat) << "damage " << i;
 }
 
 // Every stored property away from its default, through its setter.
-void SetNonDefaults(UserControl1& list)
+void setNonDefaults(UserControl1& list)
 {
     list.Enabled(true);
     list.PictureList(std::make_shared<ImageList>());
     QImage picture(3, 2, QImage::Format_RGB32);
     picture.fill(qRgb(10, 20, 30));
-    list.PictureList()->Add(picture);
+    list.PictureList()->add(picture);
     list.forecolor(0x00010203);
     list.GridLines(true);
     list.BorderStyle(0);
@@ -171,7 +171,7 @@ void SetNonDefaults(UserControl1& list)
     list.ToolTip(true);
 }
 
-QList<AnyValue> Readings(const UserControl1& list)
+QList<AnyValue> readings(const UserControl1& list)
 {
     return {int(list.Enabled()),   list.forecolor(), int(list.GridLines()), list.BorderStyle(),
             list.DropDownHeight(), list.Mode(),      list.RowHeight(),      list.DrawStyle(),
@@ -180,24 +180,24 @@ QList<AnyValue> Readings(const UserControl1& list)
 
 TEST(StoredProperties, WhatIsWrittenLoadsBackAndDefaultsAreLeftOut)
 {
-    auto list = LoadedList();
-    EXPECT_EQ(Readings(*list), QList<AnyValue>({0, olecolor::WindowText, 0, 1, 0, 0, 0, 0,
+    auto list = loadedList();
+    EXPECT_EQ(readings(*list), QList<AnyValue>({0, olecolor::WindowText, 0, 1, 0, 0, 0, 0,
                                                 olecolor::ButtonFace, 0, 0}));
     PropertyBag defaults;
     list->UserControl_WriteProperties(defaults);
     // The font is written though nothing reads it back.
-    EXPECT_EQ(Keys(defaults), QStringList({"fontname", "fontsize"}));
+    EXPECT_EQ(keys(defaults), QStringList({"fontname", "fontsize"}));
 
-    SetNonDefaults(*list);
+    setNonDefaults(*list);
     PropertyBag bag;
     list->UserControl_WriteProperties(bag);
-    EXPECT_EQ(Keys(bag),
+    EXPECT_EQ(keys(bag),
               QStringList({"enabled", "picturelist", "fontname", "fontsize", "forecolor",
                            "gridlines", "borderstyle", "dropdownheight", "mode", "rowheight",
                            "drawstyle", "backcolor", "gridcolor", "tooltip"}));
-    EXPECT_EQ(bag.ReadProperty("GridLines", 0), AnyValue(-1));
-    auto loaded = ListFrom(bag);
-    EXPECT_EQ(Readings(*loaded), Readings(*list));
+    EXPECT_EQ(bag.readProperty("GridLines", 0), AnyValue(-1));
+    auto loaded = listFrom(bag);
+    EXPECT_EQ(readings(*loaded), readings(*list));
     ASSERT_NE(loaded->PictureList(), nullptr);
     EXPECT_EQ(loaded->PictureList()->ListImages(1).Picture.convertToFormat(QImage::Format_RGB32),
               list->PictureList()->ListImages(1).Picture);
@@ -207,12 +207,12 @@ TEST(StoredProperties, WhatIsWrittenLoadsBackAndDefaultsAreLeftOut)
 TEST(StoredProperties, SavedSettingsWaitUntilAssigned)
 {
     PropertyBag bag;
-    bag.WriteProperty("Mode", PropertyType::Integer, 1, 0);
-    bag.WriteProperty("DropDownHeight", PropertyType::Integer, 2000, 0);
-    bag.WriteProperty("RowHeight", PropertyType::Integer, 400, 0);
-    bag.WriteProperty("BackColor", PropertyType::Long, 0x00FF0000, olecolor::ButtonFace);
-    bag.WriteProperty("ListCount", PropertyType::Empty, AnyValue(), 0);
-    auto list = ListFrom(bag);
+    bag.writeProperty("Mode", PropertyType::Integer, 1, 0);
+    bag.writeProperty("DropDownHeight", PropertyType::Integer, 2000, 0);
+    bag.writeProperty("RowHeight", PropertyType::Integer, 400, 0);
+    bag.writeProperty("BackColor", PropertyType::Long, 0x00FF0000, olecolor::ButtonFace);
+    bag.writeProperty("ListCount", PropertyType::Empty, AnyValue(), 0);
+    auto list = listFrom(bag);
     EXPECT_EQ(std::make_tuple(list->Mode(), list->DropDownHeight(), list->RowHeight()),
               std::make_tuple(int16_t(1), int16_t(2000), AnyValue(400)));
     const ListState& st = list->state();
@@ -221,7 +221,7 @@ TEST(StoredProperties, SavedSettingsWaitUntilAssigned)
     EXPECT_TRUE(ListProbe(*list).canvasHidden() && ListProbe(*list).scrollBarHidden());
     // A saved back colour is the surface's only.
     EXPECT_EQ(list->BackColor(), 0x00FF0000);
-    EXPECT_EQ(list->canvas().pixel(0, 0), olecolor::ToQColor(olecolor::WindowBackground).rgb());
+    EXPECT_EQ(list->canvas().pixel(0, 0), olecolor::toQColor(olecolor::WindowBackground).rgb());
     // An empty store travels as empty, not 0.
     PropertyBag written;
     list->UserControl_WriteProperties(written);

@@ -8,14 +8,14 @@
 class ReferenceMatcher {
 public:
     // Empty when the pattern is malformed.
-    static std::optional<bool> Match(const QString& p, const QString& s)
+    static std::optional<bool> match(const QString& p, const QString& s)
     {
         try {
             // Every list is checked, also one that matching would never reach.
             for (int i = 0; i < p.size(); ++i)
                 if (p[i] == u'[')
                     i = List(p, i, QString(), 0).close;
-            return Rest(p, 0, s, 0);
+            return rest(p, 0, s, 0);
         } catch (const Malformed&) {
             return std::nullopt;
         }
@@ -24,19 +24,19 @@ public:
 private:
     struct Malformed {};
 
-    static bool Rest(const QString& p, int i, const QString& s, int j)
+    static bool rest(const QString& p, int i, const QString& s, int j)
     {
         if (i == p.size())
             return j == s.size();
         const QChar c = p[i];
         if (c == u'*')
-            return Rest(p, i + 1, s, j) || (j < s.size() && Rest(p, i, s, j + 1));
+            return rest(p, i + 1, s, j) || (j < s.size() && rest(p, i, s, j + 1));
         if (c == u'[')
-            return Bracket(p, i, s, j);
+            return bracket(p, i, s, j);
         if (j == s.size())
             return false;
         const bool one = c == u'?' || (c == u'#' ? s[j].isDigit() && s[j] < u'\x80' : c == s[j]);
-        return one && Rest(p, i + 1, s, j + 1);
+        return one && rest(p, i + 1, s, j + 1);
     }
 
     struct ListRead {
@@ -72,13 +72,13 @@ private:
         return {close, negated, items.isEmpty(), inList};
     }
 
-    static bool Bracket(const QString& p, int i, const QString& s, int j)
+    static bool bracket(const QString& p, int i, const QString& s, int j)
     {
         const ListRead list = List(p, i, s, j);
         if (list.empty && !list.negated)
-            return Rest(p, list.close + 1, s, j);
+            return rest(p, list.close + 1, s, j);
         if (j == s.size())
             return false;
-        return list.inList != list.negated && Rest(p, list.close + 1, s, j + 1);
+        return list.inList != list.negated && rest(p, list.close + 1, s, j + 1);
     }
 };

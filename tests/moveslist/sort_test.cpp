@@ -7,7 +7,7 @@
 
 namespace {
 
-QStringList Reversed(QStringList texts)
+QStringList reversed(QStringList texts)
 {
     std::reverse(texts.begin(), texts.end());
     return texts;
@@ -29,19 +29,19 @@ TEST(SortOrder, RecordsCompareAsBinaryTextFromTheItemsText)
         {{QString::fromUtf8("\u00e9t\u00e9"), "zoo"}, {"zoo", QString::fromUtf8("\u00e9t\u00e9")}},
     };
     for (const Case& c : cases) {
-        auto list = LoadedList();
-        AppendTexts(*list, c.given);
+        auto list = loadedList();
+        appendTexts(*list, c.given);
         list->SortAscending();
-        EXPECT_EQ(Texts(*list), c.ascending) << c.given.join(',').toStdString();
+        EXPECT_EQ(texts(*list), c.ascending) << c.given.join(',').toStdString();
         list->SortDescending();
-        EXPECT_EQ(Texts(*list), Reversed(c.ascending)) << c.given.join(',').toStdString();
+        EXPECT_EQ(texts(*list), reversed(c.ascending)) << c.given.join(',').toStdString();
     }
 }
 
 TEST(SortOrder, EqualTextsAreOrderedByTheRestOfTheRecordAsText)
 {
-    auto list = LoadedList();
-    AppendTexts(*list, {"same", "same", "same"});
+    auto list = loadedList();
+    appendTexts(*list, {"same", "same", "same"});
     list->SetItemData(0, 9);
     list->SetItemData(1, 10);
     list->SetItemData(2, -1);
@@ -51,9 +51,9 @@ TEST(SortOrder, EqualTextsAreOrderedByTheRestOfTheRecordAsText)
     EXPECT_EQ(list->GetItemData(1), AnyValue(9));
     EXPECT_EQ(list->GetItemData(2), AnyValue(-1));
 
-    auto pictures = LoadedList();
+    auto pictures = loadedList();
     for (const int16_t picture : {9, 10})
-        AddFull(*pictures, "same", 0, picture, 0);
+        addFull(*pictures, "same", 0, picture, 0);
     pictures->SortAscending();
     EXPECT_EQ(ListProbe(*pictures).column(1, itemrecord::PictureIndex), " 10");
 }
@@ -63,7 +63,7 @@ TEST(SortOrder, EqualTextsAreOrderedByTheRestOfTheRecordAsText)
 TEST(Sorting, GivesTheOrderOfAStandardSortOfTheSameRecords)
 {
     for (unsigned seed = 1; seed <= 3; ++seed) {
-        auto list = LoadedList();
+        auto list = loadedList();
         std::mt19937 random(seed);
         const QString letters = QStringLiteral("abAB\t ");
         for (int i = 0; i < 1500; ++i) {
@@ -73,63 +73,63 @@ TEST(Sorting, GivesTheOrderOfAStandardSortOfTheSameRecords)
             list->Additem(s);
             list->SetItemData(-1, int(random() % 3));
         }
-        std::vector<QString> expected = Records(*list);
+        std::vector<QString> expected = records(*list);
         std::sort(expected.begin(), expected.end());
         list->SortAscending();
-        EXPECT_EQ(Records(*list), expected) << "seed " << seed;
+        EXPECT_EQ(records(*list), expected) << "seed " << seed;
         std::reverse(expected.begin(), expected.end());
         list->SortDescending();
-        EXPECT_EQ(Records(*list), expected) << "seed " << seed;
+        EXPECT_EQ(records(*list), expected) << "seed " << seed;
     }
 }
 
 TEST(Sorting, ShortAndLargestListsGetThrough)
 {
-    auto list = LoadedList();
+    auto list = loadedList();
     list->SortAscending();
-    AppendTexts(*list, {"only"});
+    appendTexts(*list, {"only"});
     list->SortDescending();
-    EXPECT_EQ(Texts(*list), QStringList({"only"}));
+    EXPECT_EQ(texts(*list), QStringList({"only"}));
 
     // Identical records put every record on one side of the pivot, and an ordered
     // list is the quick sort's worst case without a random pivot.
-    auto same = LoadedList();
-    const QStringList texts(32767, QStringLiteral("same"));
-    AppendTexts(*same, texts);
+    auto same = loadedList();
+    const QStringList alike(32767, QStringLiteral("same"));
+    appendTexts(*same, alike);
     same->SortAscending();
     same->SortDescending();
-    EXPECT_EQ(Texts(*same), texts);
-    auto ordered = LoadedList();
+    EXPECT_EQ(texts(*same), alike);
+    auto ordered = loadedList();
     QStringList rising;
     for (int i = 0; i < 32767; ++i)
         rising << QStringLiteral("%1").arg(i, 5, 10, QLatin1Char('0'));
-    AppendTexts(*ordered, rising);
+    appendTexts(*ordered, rising);
     ordered->SortDescending();
-    EXPECT_EQ(Texts(*ordered), Reversed(rising));
+    EXPECT_EQ(texts(*ordered), reversed(rising));
 }
 
 TEST(SortRepaint, AnUnpaintedCanvasKeepsItsRowsWhileTheItemsSort)
 {
-    auto list = UnpaintedList();
-    AppendTexts(*list, {"c", "b", "a"});
+    auto list = unpaintedList();
+    appendTexts(*list, {"c", "b", "a"});
     ASSERT_EQ(list->state().TopRow, -1);
     const QImage before = list->canvas();
     list->SortAscending();
-    EXPECT_EQ(Texts(*list), QStringList({"a", "b", "c"}));
+    EXPECT_EQ(texts(*list), QStringList({"a", "b", "c"}));
     EXPECT_EQ(list->canvas(), before);
 }
 
 TEST(SortRepaint, APaintedViewShowsTheSameItemNumbersWithTheirNewRecords)
 {
-    auto list = WhiteList(0);
-    AppendTexts(*list, {"delta", "charlie", "bravo", "alpha"});
+    auto list = whiteList(0);
+    appendTexts(*list, {"delta", "charlie", "bravo", "alpha"});
     ListProbe(*list).DrawRows(2, 3);
     list->SortAscending();
     EXPECT_EQ(list->state().TopRow, 2);
     EXPECT_EQ(list->state().BottomRow, 3);
 
-    auto sorted = WhiteList(0);
-    AppendTexts(*sorted, {"alpha", "bravo", "charlie", "delta"});
+    auto sorted = whiteList(0);
+    appendTexts(*sorted, {"alpha", "bravo", "charlie", "delta"});
     ListProbe(*sorted).DrawRows(2, 3);
     EXPECT_EQ(list->canvas(), sorted->canvas());
 }

@@ -27,7 +27,7 @@ constexpr long MemoryBoundKb = 1024;
 // Every turn banks a bead or carries beads nearer a bank, so a game ends long before.
 constexpr int TurnLimit = 100000;
 
-long ResidentKb()
+long residentKb()
 {
     std::ifstream status("/proc/self/status");
     std::string key;
@@ -43,78 +43,78 @@ long ResidentKb()
 // between as it does for a player. The bead count goes round the slider's range.
 class Soak {
 public:
-    Soak(Form1& form, int games) : form_(form), games_(games)
+    Soak(Form1& form, int games) : m_form(form), m_games(games)
     {
         // Every step of the computer's reply waits on the bar; the hook clicks it at once.
-        form_.setPauseHook([this] { ReleasePause(); });
-        QTest::mouseClick(Child<Quillet>("Pausex"), Qt::LeftButton);
-        clock_.start();
-        Later(&Soak::BeginGame);
+        m_form.setPauseHook([this] { releasePause(); });
+        QTest::mouseClick(child<Quillet>("Pausex"), Qt::LeftButton);
+        m_clock.start();
+        later(&Soak::beginGame);
     }
 
 private:
-    void Later(void (Soak::*step)())
+    void later(void (Soak::*step)())
     {
-        QTimer::singleShot(0, &form_, [this, step] {
+        QTimer::singleShot(0, &m_form, [this, step] {
             try {
                 (this->*step)();
             } catch (const std::exception& e) {
-                Fail(std::string("exception: ") + e.what());
+                fail(std::string("exception: ") + e.what());
             }
         });
     }
 
-    void BeginGame()
+    void beginGame()
     {
-        if (game_ > 0) {
-            QTest::mouseClick(Child<Quillet>("Mess"), Qt::LeftButton);
-            Expect(Child<UserControl1>("MovesList")->state().ItemCount == 0,
+        if (m_game > 0) {
+            QTest::mouseClick(child<Quillet>("Mess"), Qt::LeftButton);
+            expect(child<UserControl1>("MovesList")->state().ItemCount == 0,
                    "the restart left lines in the log");
         }
-        auto* slider = Child<QSlider>("StartBeads");
-        count_ = slider->minimum() + game_ % (slider->maximum() - slider->minimum() + 1);
+        auto* slider = child<QSlider>("StartBeads");
+        m_count = slider->minimum() + m_game % (slider->maximum() - slider->minimum() + 1);
         slider->setSliderDown(true);
-        slider->setSliderPosition(count_);
+        slider->setSliderPosition(m_count);
         slider->setSliderDown(false);
-        turns_ = 0;
-        const GameState& game = form_.game().state();
+        m_turns = 0;
+        const GameState& game = m_form.game().state();
         for (int s = 0; s < SlotCount; ++s)
-            Expect(game.Beads[s] == (isBank(s) ? 0 : count_), "the board is not laid out anew");
-        CheckBoard();
-        CheckHumanToMove(QStringLiteral("YOUR MOVE NOW"));
-        Later(&Soak::Turn);
+            expect(game.Beads[s] == (isBank(s) ? 0 : m_count), "the board is not laid out anew");
+        checkBoard();
+        checkHumanToMove(QStringLiteral("YOUR MOVE NOW"));
+        later(&Soak::turn);
     }
 
-    void Turn()
+    void turn()
     {
-        QTest::mouseClick(Child<Quillet>("TakeComp"), Qt::LeftButton);
-        ++moves_;
-        ++turns_;
-        CheckBoard();
-        if (form_.game().state().GameFinished)
-            return EndOfGame();
-        Expect(form_.game().state().GameLive, "the game goes on with a row spent");
-        CheckHumanToMove(QStringLiteral("AGAIN YOUR MOVE NOW"));
-        Expect(turns_ < TurnLimit, "the game does not end");
-        Later(&Soak::Turn);
+        QTest::mouseClick(child<Quillet>("TakeComp"), Qt::LeftButton);
+        ++m_moves;
+        ++m_turns;
+        checkBoard();
+        if (m_form.game().state().GameFinished)
+            return endOfGame();
+        expect(m_form.game().state().GameLive, "the game goes on with a row spent");
+        checkHumanToMove(QStringLiteral("AGAIN YOUR MOVE NOW"));
+        expect(m_turns < TurnLimit, "the game does not end");
+        later(&Soak::turn);
     }
 
-    void EndOfGame()
+    void endOfGame()
     {
-        CheckGameOver();
-        ++game_;
-        if (game_ == std::min(WarmGames, games_))
-            warmRss_ = ResidentKb();
-        if (game_ < games_)
-            return Later(&Soak::BeginGame);
-        const double seconds = clock_.elapsed() / 1000.0;
-        const long endRss = ResidentKb();
+        checkGameOver();
+        ++m_game;
+        if (m_game == std::min(WarmGames, m_games))
+            m_warmRss = residentKb();
+        if (m_game < m_games)
+            return later(&Soak::beginGame);
+        const double seconds = m_clock.elapsed() / 1000.0;
+        const long endRss = residentKb();
         std::printf("games played %d\nmoves made %lld (forced turns, each with the computer's "
                     "reply)\npauses released %lld\nseconds taken %.1f\ngames per second %.1f\n"
                     "VmRSS after %d games %ld kB\nVmRSS at the end %ld kB\ngrowth %ld kB\n",
-                    game_, moves_, pauses_, seconds, game_ / std::max(seconds, 0.001),
-                    std::min(WarmGames, games_), warmRss_, endRss, endRss - warmRss_);
-        const bool bounded = games_ < MemoryCheckedFrom || endRss - warmRss_ < MemoryBoundKb;
+                    m_game, m_moves, m_pauses, seconds, m_game / std::max(seconds, 0.001),
+                    std::min(WarmGames, m_games), m_warmRss, endRss, endRss - m_warmRss);
+        const bool bounded = m_games < MemoryCheckedFrom || endRss - m_warmRss < MemoryBoundKb;
         if (!bounded)
             std::printf("soak: memory grew by 1 MB or more\n");
         std::fflush(stdout);
@@ -122,102 +122,102 @@ private:
     }
 
     // A pause shuts the commands away and offers only the bar.
-    void ReleasePause()
+    void releasePause()
     {
-        auto* mess = Child<Quillet>("Mess");
-        Expect(!Child<QGroupBox>("CommandFrame")->isEnabled() && mess->isEnabled() &&
+        auto* mess = child<Quillet>("Mess");
+        expect(!child<QGroupBox>("CommandFrame")->isEnabled() && mess->isEnabled() &&
                    mess->caption().startsWith(QStringLiteral("Computer move> ")),
                "the pause does not shut the commands and offer the bar");
-        ++pauses_;
+        ++m_pauses;
         QTest::mouseClick(mess, Qt::LeftButton);
     }
 
     // Beads only move from slot to slot, and the faces show what the board holds.
-    void CheckBoard()
+    void checkBoard()
     {
-        const GameState& game = form_.game().state();
+        const GameState& game = m_form.game().state();
         for (int s = 0; s < SlotCount; ++s) {
-            Expect(game.Beads[s] >= 0, "a slot went negative");
-            Expect(Pot(s)->Tag().toInt() == game.Beads[s], "a pot's face differs from the board");
+            expect(game.Beads[s] >= 0, "a slot went negative");
+            expect(Pot(s)->Tag().toInt() == game.Beads[s], "a pot's face differs from the board");
         }
-        Expect(std::accumulate(game.Beads.begin(), game.Beads.end(), 0) == 12 * count_,
+        expect(std::accumulate(game.Beads.begin(), game.Beads.end(), 0) == 12 * m_count,
                "beads were lost or made");
-        Expect(game.StartBeadCount == count_, "the bead count moved during the game");
-        Expect(!game.BoardMirrored && !game.HintActive && game.WaitingForClick == 0,
+        expect(game.StartBeadCount == m_count, "the bead count moved during the game");
+        expect(!game.BoardMirrored && !game.HintActive && game.WaitingForClick == 0,
                "a turn left its mirror, a hint or a pause behind");
     }
 
     // The human's pots are open where they hold beads, the banks never; the computer's
     // row is shut only until the first restart. A forced turn takes no undo snapshot
     // and does not lock the bead count.
-    void CheckHumanToMove(const QString& caption)
+    void checkHumanToMove(const QString& caption)
     {
         for (int s = 0; s < SlotCount; ++s) {
             const bool open =
-                isHumanPot(s) ? form_.game().state().Beads[s] > 0 : isComputerPot(s) && game_ > 0;
-            Expect(Pot(s)->isEnabled() == open, "pot " + std::to_string(s) + " is wrongly enabled");
+                isHumanPot(s) ? m_form.game().state().Beads[s] > 0 : isComputerPot(s) && m_game > 0;
+            expect(Pot(s)->isEnabled() == open, "pot " + std::to_string(s) + " is wrongly enabled");
         }
-        auto* mess = Child<Quillet>("Mess");
-        Expect(!mess->isEnabled() && mess->caption() == caption, "the bar keeps the move");
-        Expect(Child<QGroupBox>("CommandFrame")->isEnabled(), "the commands stay shut");
-        Expect(!Child<Quillet>("Undox")->isEnabled(), "undo is offered after a forced turn");
-        Expect(Child<QSlider>("StartBeads")->isEnabled(), "a forced turn locked the slider");
+        auto* mess = child<Quillet>("Mess");
+        expect(!mess->isEnabled() && mess->caption() == caption, "the bar keeps the move");
+        expect(child<QGroupBox>("CommandFrame")->isEnabled(), "the commands stay shut");
+        expect(!child<Quillet>("Undox")->isEnabled(), "undo is offered after a forced turn");
+        expect(child<QSlider>("StartBeads")->isEnabled(), "a forced turn locked the slider");
     }
 
     // A row is spent and the banks decide; what is left on the other row stays there.
-    void CheckGameOver()
+    void checkGameOver()
     {
-        const Board& beads = form_.game().state().Beads;
+        const Board& beads = m_form.game().state().Beads;
         auto spent = [&](int first) {
             return std::all_of(&beads[first], &beads[first + 6], [](int16_t n) { return n == 0; });
         };
-        Expect(spent(0) || spent(7), "the game ended with beads on both rows");
+        expect(spent(0) || spent(7), "the game ended with beads on both rows");
         for (int s = 0; s < SlotCount; ++s)
-            Expect(!Pot(s)->isEnabled(), "a pot is open after the end");
+            expect(!Pot(s)->isEnabled(), "a pot is open after the end");
         // Only the banks count, the number after a blank of its own.
         const int margin = beads[HumanBank] - beads[ComputerBank];
         const QString result = margin > 0 ? QStringLiteral("YOU WIN BY  %1 POINTS").arg(margin)
                                : margin < 0
                                    ? QStringLiteral("COMPUTER WINS BY  %1 POINTS").arg(-margin)
                                    : QStringLiteral("GAME DRAWN");
-        auto* mess = Child<Quillet>("Mess");
-        Expect(mess->isEnabled() && mess->isVisible() &&
+        auto* mess = child<Quillet>("Mess");
+        expect(mess->isEnabled() && mess->isVisible() &&
                    mess->caption() == result + QStringLiteral(" - click here to restart"),
                "the bar does not offer the restart with the banks' margin");
     }
 
-    void Expect(bool holds, const std::string& what)
+    void expect(bool holds, const std::string& what)
     {
         if (!holds)
-            Fail(what);
+            fail(what);
     }
 
     // Stops at the first broken rule, from whichever handler found it.
-    [[noreturn]] void Fail(const std::string& what)
+    [[noreturn]] void fail(const std::string& what)
     {
         std::string board; // as the tests write it: 0 4 4 4 3 3 |0| 3 3 3 3 3 3 |0
         for (int s = 0; s < SlotCount; ++s) {
-            const std::string n = std::to_string(form_.game().state().Beads[s]);
+            const std::string n = std::to_string(m_form.game().state().Beads[s]);
             board += s == HumanBank ? " |" + n + "|" : s == ComputerBank ? " |" + n : " " + n;
         }
-        std::printf("soak: game %d, move %d of it (%lld in all): %s\nboard%s\n", game_ + 1, turns_,
-                    moves_, what.c_str(), board.c_str());
+        std::printf("soak: game %d, move %d of it (%lld in all): %s\nboard%s\n", m_game + 1,
+                    m_turns, m_moves, what.c_str(), board.c_str());
         std::fflush(stdout);
         std::_Exit(1);
     }
 
-    template <typename T> T* Child(const QString& name) const { return form_.findChild<T*>(name); }
-    Quillet* Pot(int s) const { return Child<Quillet>(QStringLiteral("Pots%1").arg(s)); }
+    template <typename T> T* child(const QString& name) const { return m_form.findChild<T*>(name); }
+    Quillet* Pot(int s) const { return child<Quillet>(QStringLiteral("Pots%1").arg(s)); }
 
-    Form1& form_;
-    const int games_;
-    int game_ = 0;
-    int count_ = 0;
-    int turns_ = 0;
-    long long moves_ = 0;
-    long long pauses_ = 0;
-    long warmRss_ = 0;
-    QElapsedTimer clock_;
+    Form1& m_form;
+    const int m_games;
+    int m_game = 0;
+    int m_count = 0;
+    int m_turns = 0;
+    long long m_moves = 0;
+    long long m_pauses = 0;
+    long m_warmRss = 0;
+    QElapsedTimer m_clock;
 };
 
 } // namespace

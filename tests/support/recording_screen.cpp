@@ -34,22 +34,22 @@ void RecordingScreen::DrawPotHot(int16_t Pot, const std::string& Text)
     hot[Pot] = true;
 }
 
-void RecordingScreen::setPotEnabled(int16_t Slot, bool Enabled)
+void RecordingScreen::setPotEnabled(int16_t slot, bool enabled)
 {
-    record("enabled:" + std::to_string(Slot) + ":" + flag(Enabled));
-    potEnabled.at(Slot) = Enabled;
+    record("enabled:" + std::to_string(slot) + ":" + flag(enabled));
+    potEnabled.at(slot) = enabled;
 }
 
-void RecordingScreen::setMessCaption(const std::string& Caption)
+void RecordingScreen::setMessCaption(const std::string& caption)
 {
-    record("mess:" + Caption);
-    messCaption = Caption;
+    record("mess:" + caption);
+    messCaption = caption;
 }
 
-void RecordingScreen::setMessEnabled(bool Enabled)
+void RecordingScreen::setMessEnabled(bool enabled)
 {
-    record("messEnabled:" + flag(Enabled));
-    messEnabled = Enabled;
+    record("messEnabled:" + flag(enabled));
+    messEnabled = enabled;
 }
 
 void RecordingScreen::showMess()
@@ -58,38 +58,38 @@ void RecordingScreen::showMess()
     messVisible = true;
 }
 
-void RecordingScreen::setUndoxEnabled(bool Enabled)
+void RecordingScreen::setUndoxEnabled(bool enabled)
 {
-    record("undox:" + flag(Enabled));
-    undoxEnabled = Enabled;
+    record("undox:" + flag(enabled));
+    undoxEnabled = enabled;
 }
 
-void RecordingScreen::setCommandFrameEnabled(bool Enabled)
+void RecordingScreen::setCommandFrameEnabled(bool enabled)
 {
-    record("frame:" + flag(Enabled));
-    commandFrameEnabled = Enabled;
+    record("frame:" + flag(enabled));
+    commandFrameEnabled = enabled;
 }
 
-void RecordingScreen::setPausexCaption(const std::string& Caption)
+void RecordingScreen::setPausexCaption(const std::string& caption)
 {
-    record("pausex:" + Caption);
-    pausexCaption = Caption;
+    record("pausex:" + caption);
+    pausexCaption = caption;
 }
 
-void RecordingScreen::setStartBeadsEnabled(bool Enabled)
+void RecordingScreen::setStartBeadsEnabled(bool enabled)
 {
-    record("slider:" + flag(Enabled));
-    startBeadsEnabled = Enabled;
+    record("slider:" + flag(enabled));
+    startBeadsEnabled = enabled;
 }
 
 // Like the real slider, a write that changes the value raises the change before it
 // returns.
-void RecordingScreen::setStartBeadsValue(int16_t Value)
+void RecordingScreen::setStartBeadsValue(int16_t value)
 {
-    record("sliderValue:" + std::to_string(Value));
-    if (Value == startBeads)
+    record("sliderValue:" + std::to_string(value));
+    if (value == startBeads)
         return;
-    startBeads = Value;
+    startBeads = value;
     if (onStartBeadsChange)
         onStartBeadsChange();
 }
@@ -103,34 +103,34 @@ void RecordingScreen::moveSlider(int16_t value)
         onStartBeadsChange();
 }
 
-void RecordingScreen::setLabel2Caption(const std::string& Caption)
+void RecordingScreen::setLabel2Caption(const std::string& caption)
 {
-    record("label2:" + Caption);
-    label2 = Caption;
+    record("label2:" + caption);
+    label2 = caption;
 }
 
-void RecordingScreen::setHandLeft(float Left)
+void RecordingScreen::setHandLeft(float left)
 {
-    record("handLeft:" + std::to_string(Left));
-    handLeft = Left;
+    record("handLeft:" + std::to_string(left));
+    handLeft = left;
 }
 
-void RecordingScreen::setHandTop(float Top)
+void RecordingScreen::setHandTop(float top)
 {
-    record("handTop:" + std::to_string(Top));
-    handTop = Top;
+    record("handTop:" + std::to_string(top));
+    handTop = top;
 }
 
-void RecordingScreen::setHandVisible(bool Visible)
+void RecordingScreen::setHandVisible(bool visible)
 {
-    record("hand:" + flag(Visible));
-    handShown = Visible;
+    record("hand:" + flag(visible));
+    handShown = visible;
 }
 
-void RecordingScreen::setTotalBCaption(int16_t Index, const std::string& Caption)
+void RecordingScreen::setTotalBCaption(int16_t index, const std::string& caption)
 {
-    record("total:" + std::to_string(Index) + ":" + Caption);
-    totalB.at(Index) = Caption;
+    record("total:" + std::to_string(index) + ":" + caption);
+    totalB.at(index) = caption;
 }
 
 void RecordingScreen::setUpMovesList()
@@ -161,16 +161,16 @@ void RecordingScreen::movesListClear()
     log.clear();
 }
 
-void RecordingScreen::scoreWin(bool Value)
+void RecordingScreen::scoreWin(bool value)
 {
-    record(Value ? "score:win" : "score:loss");
-    (Value ? scoreWins : scoreLosses)++;
+    record(value ? "score:win" : "score:loss");
+    (value ? scoreWins : scoreLosses)++;
 }
 
-void RecordingScreen::scoreDraw(bool Value)
+void RecordingScreen::scoreDraw(bool value)
 {
-    record("score:draw:" + flag(Value));
-    if (Value)
+    record("score:draw:" + flag(value));
+    if (value)
         scoreDraws++;
 }
 

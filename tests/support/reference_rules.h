@@ -12,7 +12,7 @@ namespace ref {
 
 using Ring = std::array<int, 14>;
 
-inline int Sow(Ring& b, int pot)
+inline int sow(Ring& b, int pot)
 {
     int n = b[pot];
     b[pot] = 0;
@@ -25,7 +25,7 @@ inline int Sow(Ring& b, int pot)
 }
 
 // Returns the beads taken from the opposite pot, or -1 when nothing is captured.
-inline int Capture(Ring& b, int last, int bank)
+inline int capture(Ring& b, int last, int bank)
 {
     if (last == 6 || last == 13 || b[last] != 1 || b[12 - last] == 0)
         return -1;
@@ -36,7 +36,7 @@ inline int Capture(Ring& b, int last, int bank)
     return taken;
 }
 
-inline bool Live(const Ring& b)
+inline bool live(const Ring& b)
 {
     const auto holds = [&b](int from) {
         return std::any_of(b.begin() + from, b.begin() + from + 6, [](int n) { return n > 0; });
@@ -44,10 +44,10 @@ inline bool Live(const Ring& b)
     return holds(0) && holds(7);
 }
 
-inline int Score(Ring b, int pot)
+inline int score(Ring b, int pot)
 {
-    const int last = Sow(b, pot);
-    Capture(b, last, 13);
+    const int last = sow(b, pot);
+    capture(b, last, 13);
     int g = 0;
     for (int k = 0; k < 6; ++k) {
         if (b[k] == 0)
@@ -65,13 +65,13 @@ inline int Score(Ring b, int pot)
 }
 
 // The pot the computer plays, or -1 when its row is empty.
-inline int Choose(const Ring& b)
+inline int choose(const Ring& b)
 {
     int best = 0, chosen = -1;
     for (int p = 7; p <= 12; ++p) {
         if (b[p] == 0)
             continue;
-        const int s = Score(b, p);
+        const int s = score(b, p);
         if (chosen == -1 || s >= best) {
             best = s;
             chosen = p;
@@ -81,20 +81,20 @@ inline int Choose(const Ring& b)
 }
 
 // A whole turn for the side in slots 7..13, extra moves included.
-inline void ComputerTurn(Ring& b)
+inline void computerTurn(Ring& b)
 {
     for (;;) {
-        const int pot = Choose(b);
+        const int pot = choose(b);
         if (pot < 0)
             return;
-        const int last = Sow(b, pot);
-        Capture(b, last, 13);
+        const int last = sow(b, pot);
+        capture(b, last, 13);
         if (last != 13)
             return;
     }
 }
 
-inline Ring Turned(const Ring& b)
+inline Ring turned(const Ring& b)
 {
     Ring t{};
     for (int s = 0; s < 14; ++s)
@@ -103,22 +103,22 @@ inline Ring Turned(const Ring& b)
 }
 
 // The player's pot sown, and the computer's reply unless the last bead earned another go.
-inline void PlayerMove(Ring& b, int pot)
+inline void playerMove(Ring& b, int pot)
 {
-    const int last = Sow(b, pot);
-    Capture(b, last, 6);
-    if (Live(b) && last != 6)
-        ComputerTurn(b);
+    const int last = sow(b, pot);
+    capture(b, last, 6);
+    if (live(b) && last != 6)
+        computerTurn(b);
 }
 
 // A forced turn: the computer plays the player's side, then its own.
-inline void ForcedTurn(Ring& b)
+inline void forcedTurn(Ring& b)
 {
-    b = Turned(b);
-    ComputerTurn(b);
-    b = Turned(b);
-    if (Live(b))
-        ComputerTurn(b);
+    b = turned(b);
+    computerTurn(b);
+    b = turned(b);
+    if (live(b))
+        computerTurn(b);
 }
 
 } // namespace ref

@@ -10,7 +10,7 @@
 
 namespace {
 
-QString SpokenName(QObject* object)
+QString spokenName(QObject* object)
 {
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(object);
     return face ? face->text(QAccessible::Name) : QStringLiteral("<none>");
@@ -24,7 +24,7 @@ protected:
         form.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
     }
-    QObject* Named(const QString& name) { return form.findChild<QObject*>(name); }
+    QObject* named(const QString& name) { return form.findChild<QObject*>(name); }
 
     Form1 form;
 };
@@ -33,22 +33,22 @@ protected:
 
 TEST_F(Spoken, PotsSayTheirLetterSideAndCount)
 {
-    EXPECT_EQ(SpokenName(Named("Pots2")), QStringLiteral("Pot C, yours, 3 beads"));
-    EXPECT_EQ(SpokenName(Named("Pots9")), QStringLiteral("Pot D, computer's, 3 beads"));
-    EXPECT_EQ(SpokenName(Named("Pots6")), QStringLiteral("Your bank, 0 beads"));
-    QTest::mouseClick(qobject_cast<QWidget*>(Named("Pots0")), Qt::LeftButton);
-    EXPECT_EQ(SpokenName(Named("Pots0")), QStringLiteral("Pot A, yours, 0 beads"));
-    EXPECT_EQ(SpokenName(Named("Pots13")), QStringLiteral("Computer's bank, 6 beads"));
-    EXPECT_EQ(SpokenName(Named("TotalB1")), QStringLiteral("Computer's total, 6"));
-    EXPECT_EQ(SpokenName(Named("TotalB2")), QStringLiteral("Your total, 0"));
-    EXPECT_EQ(SpokenName(Named("Mess")), QStringLiteral("YOUR MOVE NOW"));
+    EXPECT_EQ(spokenName(named("Pots2")), QStringLiteral("Pot C, yours, 3 beads"));
+    EXPECT_EQ(spokenName(named("Pots9")), QStringLiteral("Pot D, computer's, 3 beads"));
+    EXPECT_EQ(spokenName(named("Pots6")), QStringLiteral("Your bank, 0 beads"));
+    QTest::mouseClick(qobject_cast<QWidget*>(named("Pots0")), Qt::LeftButton);
+    EXPECT_EQ(spokenName(named("Pots0")), QStringLiteral("Pot A, yours, 0 beads"));
+    EXPECT_EQ(spokenName(named("Pots13")), QStringLiteral("Computer's bank, 6 beads"));
+    EXPECT_EQ(spokenName(named("TotalB1")), QStringLiteral("Computer's total, 6"));
+    EXPECT_EQ(spokenName(named("TotalB2")), QStringLiteral("Your total, 0"));
+    EXPECT_EQ(spokenName(named("Mess")), QStringLiteral("YOUR MOVE NOW"));
 }
 
 TEST_F(Spoken, ButtonsSayWhatTheyDo)
 {
-    EXPECT_EQ(SpokenName(Named("GiveHint")), QStringLiteral("Give hint"));
-    QTest::mouseClick(qobject_cast<QWidget*>(Named("Pausex")), Qt::LeftButton);
-    EXPECT_EQ(SpokenName(Named("Pausex")), QStringLiteral("Pause at moves"));
+    EXPECT_EQ(spokenName(named("GiveHint")), QStringLiteral("Give hint"));
+    QTest::mouseClick(qobject_cast<QWidget*>(named("Pausex")), Qt::LeftButton);
+    EXPECT_EQ(spokenName(named("Pausex")), QStringLiteral("Pause at moves"));
 }
 
 TEST_F(Spoken, TheKeyboardSelectionIsHeardThoughNothingShows)
@@ -56,7 +56,7 @@ TEST_F(Spoken, TheKeyboardSelectionIsHeardThoughNothingShows)
     // Keys go where the focus is, as the window system sends them.
     QWidget* focus = QApplication::focusWidget() ? QApplication::focusWidget() : &form;
     auto description = [&](const char* pot) {
-        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(Named(pot));
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(named(pot));
         return face->text(QAccessible::Description);
     };
     QTest::keyClick(focus, Qt::Key_A);
@@ -64,5 +64,5 @@ TEST_F(Spoken, TheKeyboardSelectionIsHeardThoughNothingShows)
     QTest::keyClick(focus, Qt::Key_A);
     EXPECT_TRUE(description("Pots0").isEmpty());
     EXPECT_FALSE(description("Pots1").isEmpty());
-    EXPECT_EQ(SpokenName(Named("Pots1")), QStringLiteral("Pot B, yours, 3 beads"));
+    EXPECT_EQ(spokenName(named("Pots1")), QStringLiteral("Pot B, yours, 3 beads"));
 }

@@ -21,16 +21,16 @@ protected:
         QApplication::setActiveWindow(&form);
     }
 
-    template <typename T> T* Child(const QString& name)
+    template <typename T> T* child(const QString& name)
     {
         T* child = form.findChild<T*>(name);
         EXPECT_NE(child, nullptr) << name.toStdString();
         return child;
     }
-    Quillet* Pot(int slot) { return Child<Quillet>(QStringLiteral("Pots%1").arg(slot)); }
+    Quillet* Pot(int slot) { return child<Quillet>(QStringLiteral("Pots%1").arg(slot)); }
 
     // A real move of the mouse onto a widget, as the window system would deliver it.
-    void MoveOnto(QWidget* widget)
+    void moveOnto(QWidget* widget)
     {
         const QPoint at = widget->rect().center();
         QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
@@ -38,9 +38,9 @@ protected:
         QApplication::sendEvent(widget, &move);
     }
 
-    qint64 PictureOf(int slot) { return Pot(slot)->picture().cacheKey(); }
-    qint64 RaisedGreen() { return Child<QLabel>(QStringLiteral("Image4"))->pixmap().cacheKey(); }
-    qint64 SunkenGreen() { return PictureOf(HumanBank); }
+    qint64 pictureOf(int slot) { return Pot(slot)->picture().cacheKey(); }
+    qint64 raisedGreen() { return child<QLabel>(QStringLiteral("Image4"))->pixmap().cacheKey(); }
+    qint64 sunkenGreen() { return pictureOf(HumanBank); }
 
     Form1 form;
 };
@@ -51,9 +51,9 @@ protected:
 // parts of the window they do not print.
 TEST_F(MainWindow, StartsWithItsHelpersHiddenAndCannotBeResized)
 {
-    EXPECT_FALSE(Child<Marlets::Marlet>(QStringLiteral("Score1"))->isVisible());
-    EXPECT_FALSE(Child<QLabel>(QStringLiteral("Image3"))->isVisible());
-    EXPECT_FALSE(Child<QLabel>(QStringLiteral("Image4"))->isVisible());
+    EXPECT_FALSE(child<Marlets::Marlet>(QStringLiteral("Score1"))->isVisible());
+    EXPECT_FALSE(child<QLabel>(QStringLiteral("Image3"))->isVisible());
+    EXPECT_FALSE(child<QLabel>(QStringLiteral("Image4"))->isVisible());
     EXPECT_EQ(form.windowTitle(), QStringLiteral("TAVOK"));
     EXPECT_FALSE(form.windowIcon().isNull());
     EXPECT_EQ(form.minimumSize(), form.maximumSize());
@@ -64,34 +64,34 @@ TEST_F(MainWindow, FacesShowRaisedDiscsForCountsAndHollowsForEmptyPots)
     QTest::mouseClick(Pot(0), Qt::LeftButton);
     EXPECT_EQ(Pot(0)->caption(), QString());
     EXPECT_EQ(Pot(0)->Tag(), QString());
-    EXPECT_EQ(PictureOf(0), SunkenGreen());
+    EXPECT_EQ(pictureOf(0), sunkenGreen());
     EXPECT_FALSE(Pot(0)->isEnabled());
-    EXPECT_EQ(PictureOf(1), RaisedGreen());
+    EXPECT_EQ(pictureOf(1), raisedGreen());
     EXPECT_EQ(Pot(HumanBank)->caption(), QStringLiteral("0"));
     // The computer took pot A's opposite: its empty red pot is a red hollow.
     EXPECT_EQ(Pot(12)->caption(), QString());
-    EXPECT_EQ(PictureOf(12), PictureOf(ComputerBank));
+    EXPECT_EQ(pictureOf(12), pictureOf(ComputerBank));
 }
 
 TEST_F(MainWindow, HoverLookStaysOverALetterAndEndsOverTheSurface)
 {
-    MoveOnto(Pot(2));
-    EXPECT_EQ(PictureOf(2), SunkenGreen());
+    moveOnto(Pot(2));
+    EXPECT_EQ(pictureOf(2), sunkenGreen());
     EXPECT_EQ(Pot(2)->caption(), QStringLiteral("3"));
-    MoveOnto(Child<QLabel>(QStringLiteral("PotName2")));
-    EXPECT_EQ(PictureOf(2), SunkenGreen()) << "a letter is no part of the window's surface";
-    MoveOnto(Pot(3));
-    EXPECT_EQ(PictureOf(2), RaisedGreen());
-    EXPECT_EQ(PictureOf(3), SunkenGreen());
-    MoveOnto(&form);
-    EXPECT_EQ(PictureOf(3), RaisedGreen());
+    moveOnto(child<QLabel>(QStringLiteral("PotName2")));
+    EXPECT_EQ(pictureOf(2), sunkenGreen()) << "a letter is no part of the window's surface";
+    moveOnto(Pot(3));
+    EXPECT_EQ(pictureOf(2), raisedGreen());
+    EXPECT_EQ(pictureOf(3), sunkenGreen());
+    moveOnto(&form);
+    EXPECT_EQ(pictureOf(3), raisedGreen());
     EXPECT_EQ(form.game().state().HoverPot, -1);
 }
 
 TEST_F(MainWindow, TheScoreBoardOpensOnAnyButtonsRelease)
 {
-    auto* score = Child<Marlets::Marlet>(QStringLiteral("Score1"));
-    QTest::mouseClick(Child<Quillet>(QStringLiteral("Scorex")), Qt::RightButton);
+    auto* score = child<Marlets::Marlet>(QStringLiteral("Score1"));
+    QTest::mouseClick(child<Quillet>(QStringLiteral("Scorex")), Qt::RightButton);
     EXPECT_TRUE(score->isVisible());
 }
 
@@ -144,7 +144,7 @@ TEST(EndingInAPause, TheProgramEndsAtOnce)
 // undo still counts.
 TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
 {
-    auto* log = Child<UserControl1>(QStringLiteral("MovesList"));
+    auto* log = child<UserControl1>(QStringLiteral("MovesList"));
     // The first part of a long evening, in a hurry.
     for (int i = log->state().ItemCount; i < 32740; ++i) {
         QString line = QStringLiteral("#000>Move   3 from A");
@@ -156,7 +156,7 @@ TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
         QTest::mouseClick(Pot(pot), Qt::LeftButton);
         ASSERT_NE(form.game().state().Beads, start) << "round " << round << ": the move was played";
         ASSERT_EQ(form.game().state().WaitingForClick, 0);
-        QTest::mouseClick(Child<Quillet>(QStringLiteral("Undox")), Qt::LeftButton);
+        QTest::mouseClick(child<Quillet>(QStringLiteral("Undox")), Qt::LeftButton);
         ASSERT_EQ(form.game().state().Beads, start) << "round " << round << ": the undo was made";
     }
     EXPECT_GE(log->state().ItemCount, 32768);
@@ -166,7 +166,7 @@ TEST_F(MainWindow, AFullLogDoesNotStopTheGame)
 
 TEST_F(MainWindow, ALongTotalStaysWholeInItsBox)
 {
-    auto* total = Child<QLabel>(QStringLiteral("TotalB2"));
+    auto* total = child<QLabel>(QStringLiteral("TotalB2"));
     form.setTotalBCaption(2, "32767");
     EXPECT_LE(QFontMetrics(total->font()).horizontalAdvance(total->text()),
               total->contentsRect().width());
@@ -193,7 +193,7 @@ void PrintTo(const Outcome& o, std::ostream* out)
     *out << o.log.join(QLatin1String(" / ")).toStdString();
 }
 
-void PostClick(QWidget* widget)
+void postClick(QWidget* widget)
 {
     const QPoint at = widget->rect().center();
     const QPoint global = widget->mapToGlobal(at);
@@ -210,7 +210,7 @@ void PostClick(QWidget* widget)
 // the event loop delivers them, the second while the computer's move still runs.
 enum class Behind { Nothing, PotClick, Enter, SliderDrag };
 
-Outcome PlayPausedOpening(Behind behind, bool forcedTurn)
+Outcome playPausedOpening(Behind behind, bool forcedTurn)
 {
     Form1 form;
     form.show();
@@ -224,9 +224,9 @@ Outcome PlayPausedOpening(Behind behind, bool forcedTurn)
             return;
         }
         first = false;
-        PostClick(child("Mess"));
+        postClick(child("Mess"));
         if (behind == Behind::PotClick)
-            PostClick(child("Pots2"));
+            postClick(child("Pots2"));
         if (behind == Behind::Enter) {
             QWidget* focused = QApplication::focusWidget();
             QCoreApplication::postEvent(
@@ -265,8 +265,8 @@ class EventsBehindTheRelease : public ::testing::TestWithParam<Behind> {};
 TEST_P(EventsBehindTheRelease, StartNoMoveInsideTheComputers)
 {
     const bool forcedTurn = GetParam() == Behind::SliderDrag;
-    const Outcome undisturbed = PlayPausedOpening(Behind::Nothing, forcedTurn);
-    const Outcome outcome = PlayPausedOpening(GetParam(), forcedTurn);
+    const Outcome undisturbed = playPausedOpening(Behind::Nothing, forcedTurn);
+    const Outcome outcome = playPausedOpening(GetParam(), forcedTurn);
     EXPECT_EQ(std::accumulate(outcome.beads.begin(), outcome.beads.end(), 0), 12 * 3);
     EXPECT_EQ(outcome, undisturbed);
 }

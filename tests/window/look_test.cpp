@@ -12,7 +12,7 @@
 namespace {
 
 // Whether every line of a text stands inside the control, as its own font draws it.
-bool Fits(const QWidget* control, const QString& text)
+bool fits(const QWidget* control, const QString& text)
 {
     const QFontMetrics metrics(control->font());
     const QStringList lines = text.split(QLatin1Char('\n'));
@@ -22,13 +22,13 @@ bool Fits(const QWidget* control, const QString& text)
     return int(lines.size()) * metrics.height() <= control->height() + metrics.descent();
 }
 
-void ExpectEveryCaptionFits(const Form1& form)
+void expectEveryCaptionFits(const Form1& form)
 {
     // A failing line names the control and the text that overflows it.
     const auto check = [](const QWidget* control, const QString& text) {
         if (!control->isVisible() || text.isEmpty())
             return;
-        EXPECT_TRUE(Fits(control, text))
+        EXPECT_TRUE(fits(control, text))
             << control->objectName().toStdString() << ": " << text.toStdString();
     };
     for (const Quillet* control : form.findChildren<Quillet*>())
@@ -57,10 +57,10 @@ protected:
 // Captions change all through a game: the messages, the totals, the result.
 TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
 {
-    ExpectEveryCaptionFits(form);
+    expectEveryCaptionFits(form);
     for (int turn = 0; turn < 300 && !form.game().state().GameFinished; ++turn) {
         Click(form, "TakeComp");
-        ExpectEveryCaptionFits(form);
+        expectEveryCaptionFits(form);
     }
     ASSERT_TRUE(form.game().state().GameFinished);
 }

@@ -51,13 +51,13 @@ constexpr QRect CommandsPlace(360, 160, 270, 230);
 constexpr QRect StatusPlace(10, 400, 620, 22);
 constexpr QSize WindowSize(640, 430);
 
-UserControl1* NewList(QWidget* parent)
+UserControl1* newList(QWidget* parent)
 {
     // A control as a form loads it with no stored settings.
-    return UserControl1::FromBlock(lbblock::Write(PropertyBag()), parent);
+    return UserControl1::fromBlock(lbblock::write(PropertyBag()), parent);
 }
 
-QLabel* Caption(const QString& text, QPoint at, QWidget* parent)
+QLabel* caption(const QString& text, QPoint at, QWidget* parent)
 {
     auto* label = new QLabel(text, parent);
     label->move(at);
@@ -79,8 +79,8 @@ DemoWindow::DemoWindow(QWidget* parent) : QWidget(parent)
 
 void DemoWindow::createLists()
 {
-    Caption(QStringLiteral("List"), PlainListPlace.topLeft() - QPoint(0, 20), this);
-    plainList = NewList(this);
+    caption(QStringLiteral("List"), PlainListPlace.topLeft() - QPoint(0, 20), this);
+    plainList = newList(this);
     plainList->setGeometry(PlainListPlace.x(), PlainListPlace.y(), PlainListPlace.width(), 19);
     plainList->DropDownHeight(5400);
     plainList->Mode(0);
@@ -89,8 +89,8 @@ void DemoWindow::createLists()
     fill(*plainList, 40);
     listen(*plainList, QStringLiteral("List"));
 
-    Caption(QStringLiteral("Drop-down"), DropDownPlace.topLeft() - QPoint(0, 20), this);
-    dropDown = NewList(this);
+    caption(QStringLiteral("Drop-down"), DropDownPlace.topLeft() - QPoint(0, 20), this);
+    dropDown = newList(this);
     dropDown->setGeometry(DropDownPlace.x(), DropDownPlace.y(), DropDownPlace.width(), 19);
     dropDown->DropDownHeight(2600);
     dropDown->Mode(1);

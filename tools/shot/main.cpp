@@ -26,7 +26,7 @@ int main(int argc, char* argv[])
             const QString file = text.mid(5).trimmed();
             if (!form.grab().save(file))
                 std::cerr << "tavok-shot: cannot write " << file.toStdString() << '\n';
-        } else if (!text.isEmpty() && !trace.Perform(text)) {
+        } else if (!text.isEmpty() && !trace.perform(text)) {
             std::cerr << "tavok-shot: unknown action: " << line << '\n';
         }
     }

@@ -16,10 +16,10 @@ int main(int argc, char* argv[])
     QApplication::setActiveWindow(&form);
 
     Trace trace(form, std::cout);
-    trace.PrintStart();
+    trace.printStart();
     bool allKnown = true;
     for (std::string line; std::getline(std::cin, line);)
         if (!QString::fromStdString(line).trimmed().isEmpty())
-            allKnown = trace.Perform(QString::fromStdString(line)) && allKnown;
+            allKnown = trace.perform(QString::fromStdString(line)) && allKnown;
     return allKnown ? 0 : 2;
 }

@@ -19,12 +19,12 @@
 
 namespace {
 
-QString Shown(const QString& caption)
+QString shown(const QString& caption)
 {
     return caption.isEmpty() ? QStringLiteral(".") : caption;
 }
 
-char Flag(bool on)
+char flag(bool on)
 {
     return on ? '1' : '0';
 }
@@ -36,45 +36,45 @@ Qt::MouseButton QtButton(int button)
 
 } // namespace
 
-Trace::Trace(Form1& form, std::ostream& out) : form_(form), out_(out)
+Trace::Trace(Form1& form, std::ostream& out) : m_form(form), m_out(out)
 {
     // Every pause is released at once by a click on the bar; its caption is kept.
-    form_.setPauseHook([this] { ReleasePause(); });
+    m_form.setPauseHook([this] { releasePause(); });
 }
 
-template <typename T> T* Trace::Child(const char* name) const
+template <typename T> T* Trace::child(const char* name) const
 {
-    return form_.findChild<T*>(QString::fromLatin1(name));
+    return m_form.findChild<T*>(QString::fromLatin1(name));
 }
 
 Quillet* Trace::Pot(int slot) const
 {
-    return form_.findChild<Quillet*>(QStringLiteral("Pots%1").arg(slot));
+    return m_form.findChild<Quillet*>(QStringLiteral("Pots%1").arg(slot));
 }
 
-void Trace::PrintStart()
+void Trace::printStart()
 {
-    PrintState(QStringLiteral("start"));
+    printState(QStringLiteral("start"));
 }
 
-bool Trace::Perform(const QString& line)
+bool Trace::perform(const QString& line)
 {
     const QStringList words = line.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (words.isEmpty())
         return false;
     bool numberOk = true;
     const int argument = words.size() > 1 ? words[1].toInt(&numberOk) : 0;
-    pauses_.clear();
+    m_pauses.clear();
     bool ignored = false;
-    if (!numberOk || !Act(words[0], argument, ignored)) {
-        out_ << "> " << line.toStdString() << " unknown\n";
+    if (!numberOk || !act(words[0], argument, ignored)) {
+        m_out << "> " << line.toStdString() << " unknown\n";
         return false;
     }
-    PrintState(line.simplified() + (ignored ? QStringLiteral(" ignored") : QString()));
+    printState(line.simplified() + (ignored ? QStringLiteral(" ignored") : QString()));
     return true;
 }
 
-bool Trace::Act(const QString& verb, int argument, bool& ignored)
+bool Trace::act(const QString& verb, int argument, bool& ignored)
 {
     auto potAction = [&](auto&& action) {
         Quillet* pot = Pot(argument);
@@ -84,40 +84,40 @@ bool Trace::Act(const QString& verb, int argument, bool& ignored)
         return true;
     };
     auto onControl = [&](const char* name, auto&& action) {
-        ignored = !action(Child<QWidget>(name));
+        ignored = !action(child<QWidget>(name));
         return true;
     };
     if (verb == QLatin1String("click"))
-        return potAction([&](Quillet* p) { return ClickWidget(p, 1); });
+        return potAction([&](Quillet* p) { return clickWidget(p, 1); });
     if (verb == QLatin1String("rdown"))
-        return potAction([&](Quillet* p) { return PressWidget(p, 2); });
+        return potAction([&](Quillet* p) { return pressWidget(p, 2); });
     if (verb == QLatin1String("rup"))
-        return potAction([&](Quillet* p) { return ReleaseWidget(p, 2); });
+        return potAction([&](Quillet* p) { return releaseWidget(p, 2); });
     if (verb == QLatin1String("hover"))
-        return potAction([&](Quillet* p) { return MoveOver(p); });
+        return potAction([&](Quillet* p) { return moveOver(p); });
     if (verb == QLatin1String("formmove"))
-        return MoveOver(&form_), true;
+        return moveOver(&m_form), true;
     if (verb == QLatin1String("key"))
-        return PressKey(static_cast<int16_t>(argument)), true;
+        return pressKey(static_cast<int16_t>(argument)), true;
     if (verb == QLatin1String("mess"))
-        return onControl("Mess", [&](QWidget* w) { return ClickWidget(w, 1); });
+        return onControl("Mess", [&](QWidget* w) { return clickWidget(w, 1); });
     if (verb == QLatin1String("undo"))
-        return onControl("Undox", [&](QWidget* w) { return ClickWidget(w, 1); });
+        return onControl("Undox", [&](QWidget* w) { return clickWidget(w, 1); });
     if (verb == QLatin1String("pause"))
-        return onControl("Pausex", [&](QWidget* w) { return ClickWidget(w, 1); });
+        return onControl("Pausex", [&](QWidget* w) { return clickWidget(w, 1); });
     if (verb == QLatin1String("force"))
-        return onControl("TakeComp", [&](QWidget* w) { return ClickWidget(w, 1); });
+        return onControl("TakeComp", [&](QWidget* w) { return clickWidget(w, 1); });
     if (verb == QLatin1String("hintdown"))
-        return onControl("GiveHint", [&](QWidget* w) { return PressWidget(w, 1); });
+        return onControl("GiveHint", [&](QWidget* w) { return pressWidget(w, 1); });
     if (verb == QLatin1String("hintup"))
-        return onControl("GiveHint", [&](QWidget* w) { return ReleaseWidget(w, 1); });
+        return onControl("GiveHint", [&](QWidget* w) { return releaseWidget(w, 1); });
     if (verb == QLatin1String("score"))
-        return onControl("Scorex", [&](QWidget* w) { return ReleaseWidget(w, 1); });
+        return onControl("Scorex", [&](QWidget* w) { return releaseWidget(w, 1); });
     if (verb == QLatin1String("slider")) {
-        auto* slider = Child<QSlider>("StartBeads");
+        auto* slider = child<QSlider>("StartBeads");
         ignored = !slider->isEnabled();
         if (!ignored)
-            DragSlider(argument);
+            dragSlider(argument);
         return true;
     }
     return false;
@@ -125,7 +125,7 @@ bool Trace::Act(const QString& verb, int argument, bool& ignored)
 
 // A disabled control, or one inside a disabled frame, takes no click: the action is
 // dropped as the user's click would be.
-bool Trace::ClickWidget(QWidget* widget, int button)
+bool Trace::clickWidget(QWidget* widget, int button)
 {
     if (!widget->isEnabled())
         return false;
@@ -133,7 +133,7 @@ bool Trace::ClickWidget(QWidget* widget, int button)
     return true;
 }
 
-bool Trace::PressWidget(QWidget* widget, int button)
+bool Trace::pressWidget(QWidget* widget, int button)
 {
     if (!widget->isEnabled())
         return false;
@@ -141,7 +141,7 @@ bool Trace::PressWidget(QWidget* widget, int button)
     return true;
 }
 
-bool Trace::ReleaseWidget(QWidget* widget, int button)
+bool Trace::releaseWidget(QWidget* widget, int button)
 {
     if (!widget->isEnabled())
         return false;
@@ -149,67 +149,67 @@ bool Trace::ReleaseWidget(QWidget* widget, int button)
     return true;
 }
 
-bool Trace::MoveOver(QWidget* widget)
+bool Trace::moveOver(QWidget* widget)
 {
     if (!widget->isEnabled())
         return false;
     // Over the window's own surface: a corner no control covers.
-    const QPoint at = widget == &form_ ? QPoint(1, 1) : widget->rect().center();
+    const QPoint at = widget == &m_form ? QPoint(1, 1) : widget->rect().center();
     QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
                      Qt::NoModifier);
     QApplication::sendEvent(widget, &move);
     return true;
 }
 
-void Trace::PressKey(int16_t code)
+void Trace::pressKey(int16_t code)
 {
     QWidget* focus = QApplication::focusWidget();
-    QWidget* target = focus && focus->window() == &form_ ? focus : &form_;
+    QWidget* target = focus && focus->window() == &m_form ? focus : &m_form;
     const int key = QtKeyFor(code);
     QTest::keyClick(target, static_cast<Qt::Key>(key ? key : Qt::Key_unknown));
 }
 
-void Trace::DragSlider(int value)
+void Trace::dragSlider(int value)
 {
-    auto* slider = Child<QSlider>("StartBeads");
+    auto* slider = child<QSlider>("StartBeads");
     slider->setSliderDown(true);
     slider->setSliderPosition(value);
     slider->setSliderDown(false);
 }
 
-void Trace::ReleasePause()
+void Trace::releasePause()
 {
-    auto* mess = Child<Quillet>("Mess");
-    pauses_ << mess->caption();
+    auto* mess = child<Quillet>("Mess");
+    m_pauses << mess->caption();
     QTest::mouseClick(mess, Qt::LeftButton);
 }
 
-void Trace::PrintState(const QString& heading)
+void Trace::printState(const QString& heading)
 {
-    out_ << "> " << heading.toStdString() << '\n';
+    m_out << "> " << heading.toStdString() << '\n';
 
     std::string pots = "pots", enabled = "enabled ";
     for (int s = 0; s < 14; ++s) {
-        pots += ' ' + Shown(Pot(s)->caption()).toStdString();
-        enabled += Flag(Pot(s)->isEnabled());
+        pots += ' ' + shown(Pot(s)->caption()).toStdString();
+        enabled += flag(Pot(s)->isEnabled());
     }
-    out_ << pots << '\n' << enabled << '\n';
+    m_out << pots << '\n' << enabled << '\n';
 
-    auto* mess = Child<Quillet>("Mess");
-    out_ << "mess " << Flag(mess->isEnabled()) << ' ' << Shown(mess->caption()).toStdString()
-         << '\n';
-    out_ << "totals " << Shown(Child<QLabel>("TotalB1")->text()).toStdString() << ' '
-         << Shown(Child<QLabel>("TotalB2")->text()).toStdString() << '\n';
-    out_ << "label2 " << Shown(Child<QLabel>("Label2")->text()).toStdString() << '\n';
-    out_ << "pausex " << Shown(Child<Quillet>("Pausex")->caption()).toStdString() << '\n';
+    auto* mess = child<Quillet>("Mess");
+    m_out << "mess " << flag(mess->isEnabled()) << ' ' << shown(mess->caption()).toStdString()
+          << '\n';
+    m_out << "totals " << shown(child<QLabel>("TotalB1")->text()).toStdString() << ' '
+          << shown(child<QLabel>("TotalB2")->text()).toStdString() << '\n';
+    m_out << "label2 " << shown(child<QLabel>("Label2")->text()).toStdString() << '\n';
+    m_out << "pausex " << shown(child<Quillet>("Pausex")->caption()).toStdString() << '\n';
 
-    auto* undo = Child<Quillet>("Undox");
-    auto* frame = Child<QGroupBox>("CommandFrame");
-    auto* slider = Child<QSlider>("StartBeads");
-    out_ << "undo " << Flag(undo->isEnabledTo(frame)) << " frame " << Flag(frame->isEnabled())
-         << " slider " << Flag(slider->isEnabled()) << ' ' << slider->value() << '\n';
+    auto* undo = child<Quillet>("Undox");
+    auto* frame = child<QGroupBox>("CommandFrame");
+    auto* slider = child<QSlider>("StartBeads");
+    m_out << "undo " << flag(undo->isEnabledTo(frame)) << " frame " << flag(frame->isEnabled())
+          << " slider " << flag(slider->isEnabled()) << ' ' << slider->value() << '\n';
 
-    auto* hand = Child<Quillet>("Hand");
+    auto* hand = child<Quillet>("Hand");
     std::string where = "hidden";
     if (hand->Visible()) {
         where = "elsewhere";
@@ -217,21 +217,21 @@ void Trace::PrintState(const QString& heading)
             if (hand->Left() == Layout::PotNameLeft[i] && hand->Top() == Layout::PotNameTop)
                 where = std::to_string(i);
     }
-    out_ << "hand " << where << '\n';
+    m_out << "hand " << where << '\n';
 
-    auto* score = Child<Marlets::Marlet>("Score1");
-    out_ << "score " << score->wins() << ' ' << score->losses() << ' ' << score->draws() << '\n';
-    for (const QString& caption : pauses_)
-        out_ << "pause " << Shown(caption).toStdString() << '\n';
+    auto* score = child<Marlets::Marlet>("Score1");
+    m_out << "score " << score->wins() << ' ' << score->losses() << ' ' << score->draws() << '\n';
+    for (const QString& caption : m_pauses)
+        m_out << "pause " << shown(caption).toStdString() << '\n';
 
-    const ListState& list = Child<UserControl1>("MovesList")->state();
-    out_ << "list " << list.ItemCount << '\n';
+    const ListState& list = child<UserControl1>("MovesList")->state();
+    m_out << "list " << list.ItemCount << '\n';
     for (int item = 1; item <= list.ItemCount; ++item) {
         const QStringList columns = itemrecord::Split(list.Items[item]);
         const auto color = static_cast<uint32_t>(
             static_cast<int64_t>(AnyValue(columns.value(itemrecord::Colour)).toNumber()));
-        out_ << QStringLiteral("%1").arg(color, 8, 16, QLatin1Char('0')).toUpper().toStdString()
-             << ' ' << columns.value(itemrecord::Text).toStdString() << '\n';
+        m_out << QStringLiteral("%1").arg(color, 8, 16, QLatin1Char('0')).toUpper().toStdString()
+              << ' ' << columns.value(itemrecord::Text).toStdString() << '\n';
     }
-    out_.flush();
+    m_out.flush();
 }

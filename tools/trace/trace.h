@@ -16,25 +16,25 @@ class Trace {
 public:
     Trace(Form1& form, std::ostream& out);
 
-    void PrintStart();
+    void printStart();
     // Returns false for a line that is no action (it is reported and skipped).
-    bool Perform(const QString& line);
+    bool perform(const QString& line);
 
 private:
-    bool Act(const QString& verb, int argument, bool& ignored);
-    bool ClickWidget(QWidget* widget, int button);
-    bool PressWidget(QWidget* widget, int button);
-    bool ReleaseWidget(QWidget* widget, int button);
-    bool MoveOver(QWidget* widget);
-    void PressKey(int16_t code);
-    void DragSlider(int value);
-    void ReleasePause();
-    void PrintState(const QString& heading);
+    bool act(const QString& verb, int argument, bool& ignored);
+    bool clickWidget(QWidget* widget, int button);
+    bool pressWidget(QWidget* widget, int button);
+    bool releaseWidget(QWidget* widget, int button);
+    bool moveOver(QWidget* widget);
+    void pressKey(int16_t code);
+    void dragSlider(int value);
+    void releasePause();
+    void printState(const QString& heading);
 
     Quillet* Pot(int slot) const;
-    template <typename T> T* Child(const char* name) const;
+    template <typename T> T* child(const char* name) const;
 
-    Form1& form_;
-    std::ostream& out_;
-    QStringList pauses_;
+    Form1& m_form;
+    std::ostream& m_out;
+    QStringList m_pauses;
 };
