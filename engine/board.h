@@ -9,6 +9,7 @@
 // 13 the computer's bank. Sowing runs up the slot numbers and wraps from 13 to 0.
 
 constexpr int SlotCount = 14;
+constexpr int PotsPerRow = 6;
 constexpr int16_t FirstHumanPot = 0;
 constexpr int16_t LastHumanPot = 5;
 constexpr int16_t HumanBank = 6;

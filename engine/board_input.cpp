@@ -75,7 +75,7 @@ void Game::Form_KeyDown(int16_t KeyCode, int16_t Shift)
             static_cast<int16_t>(KeyboardPot == LastHumanPot ? FirstHumanPot : KeyboardPot + 1);
     };
     step();
-    for (int tries = 0; tries < 6; ++tries) {
+    for (int tries = 0; tries < PotsPerRow; ++tries) {
         if (Beads[KeyboardPot] > 0)
             return;
         step();

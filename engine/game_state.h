@@ -47,11 +47,11 @@ struct GameState {
     Board HintSavedBeads{};
     bool PauseAtMovesSaved = false;
     int16_t HintPot = 0;
-    int16_t HintPotShown = -1;
+    int16_t HintPotShown = NoSlot;
 
     // Board view, preview, keyboard
-    int16_t HoverPot = -1;
+    int16_t HoverPot = NoSlot;
     bool PreviewActive = false;
     Board PreviewBeads{};
-    int16_t KeyboardPot = -1;
+    int16_t KeyboardPot = NoSlot;
 };

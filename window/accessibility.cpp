@@ -25,7 +25,7 @@ void Form1::describePot(int16_t Slot)
     else
         name = QStringLiteral("Pot %1, %2, %3")
                    .arg(QChar(potLetter(Slot, false)))
-                   .arg(Slot < 6 ? QStringLiteral("yours") : QStringLiteral("computer's"))
+                   .arg(isHumanPot(Slot) ? QStringLiteral("yours") : QStringLiteral("computer's"))
                    .arg(beads);
     if (pot->accessibleName() == name)
         return;
@@ -52,7 +52,7 @@ void Form1::describeButton(Quillet* button)
 void Form1::announceKeyboardPot()
 {
     const int16_t selected = m_game.state().KeyboardPot;
-    for (int16_t s = 0; s <= 5; ++s)
+    for (int16_t s = FirstHumanPot; s <= LastHumanPot; ++s)
         Pots[s]->setAccessibleDescription(s == selected ? QStringLiteral("Selected: Enter plays it")
                                                         : QString());
     if (!isHumanPot(selected))

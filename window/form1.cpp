@@ -218,7 +218,7 @@ void Form1::createBoard()
         else if (s == ComputerBank)
             pot->picture(redSunken);
         else
-            pot->picture(s < 6 ? greenRaised : redRaised);
+            pot->picture(isHumanPot(s) ? greenRaised : redRaised);
         // The computer's pots are stored disabled: they take the mouse only after a restart.
         pot->enabled(!isComputerPot(s));
         Pots[s] = pot;
@@ -251,7 +251,7 @@ void Form1::createBoard()
         TotalB[i] = total;
     }
 
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < PotsPerRow; ++i) {
         const char* names[] = {"PotName0", "PotName1", "PotName2",
                                "PotName3", "PotName4", "PotName5"};
         QLabel* letter = makeLabel(this, names[i], QString(QChar('A' + i)));

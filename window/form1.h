@@ -118,7 +118,7 @@ private:
     QLabel* Label3 = nullptr;
     QLabel* Label1 = nullptr;
     std::array<QLabel*, 3> TotalB{};
-    std::array<QLabel*, 6> PotName{};
+    std::array<QLabel*, PotsPerRow> PotName{};
     QLabel* Image1 = nullptr;
     QLabel* Image2 = nullptr;
     QLabel* Label2 = nullptr;
