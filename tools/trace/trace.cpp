@@ -59,6 +59,9 @@ void Trace::printStart()
 
 bool Trace::perform(const QString& line)
 {
+    // A script says in lines of its own, beginning with #, what it shows.
+    if (line.trimmed().startsWith(QLatin1Char('#')))
+        return true;
     const QStringList words = line.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (words.isEmpty())
         return false;

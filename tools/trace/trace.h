@@ -17,7 +17,8 @@ public:
     Trace(Form1& form, std::ostream& out);
 
     void printStart();
-    // Returns false for a line that is no action (it is reported and skipped).
+    // Returns false for a line that is no action (it is reported and skipped); a line
+    // beginning with # is a comment of the script and prints nothing.
     bool perform(const QString& line);
 
 private:
