@@ -24,7 +24,7 @@ using ForcedTurn = GameTest;
 
 // The human's part has a capture and an extra move: only its "Move" lines say who
 // played, all of it is green and numbered and never pauses; the reply pauses.
-TEST_F(ForcedTurn, OnlyTheMoveLinesSayTheComputerPlayedAndOnlyTheReplyPauses)
+TEST_F(ForcedTurn, PlaysTheHumansPartInGreenWithoutPausing)
 {
     setBoard("0 5 0 3 0 1 |0| 3 3 3 3 3 3 |0");
     state.PauseAtMoves = true;
@@ -44,19 +44,6 @@ TEST_F(ForcedTurn, OnlyTheMoveLinesSayTheComputerPlayedAndOnlyTheReplyPauses)
     const auto red = std::distance(line, screen.log.rend());
     EXPECT_GT(red, 0);
     EXPECT_EQ(screen.pendingEventRuns, red);
-}
-
-// F's one bead falls in the human's bank and spends the row: the extra move is told,
-// the next pass finds nothing to sow, and the game ends with no reply.
-TEST_F(ForcedTurn, SpendingARowEndsTheGameBeforeTheReply)
-{
-    setBoard("0 0 0 0 0 1 |0| 1 0 0 0 0 0 |0");
-    game.TakeComp_Click();
-    EXPECT_TRUE(state.GameFinished);
-    EXPECT_EQ(screen.messCaption, "YOU WIN BY  1 POINTS - click here to restart");
-    EXPECT_EQ(moves(), (std::vector<std::string>{"#001>Move   1 from F - computer played",
-                                                 "#002>Last entry into the bank; move again",
-                                                 "YOU WIN BY  1 POINTS"}));
 }
 
 using Hint = GameTest;

@@ -4,7 +4,7 @@ using Keyboard = GameTest;
 
 constexpr int16_t KeyA = 65;
 
-TEST_F(Keyboard, TheWalkSkipsEmptyPotsAndWrapsFromFToA)
+TEST_F(Keyboard, TheWalkVisitsOnlyPotsWithBeads)
 {
     setBoard("3 0 0 3 0 3 |0| 3 3 3 3 3 3 |0");
     state.KeyboardPot = 0;

@@ -2,7 +2,7 @@
 
 using Narration = GameTest;
 
-TEST_F(Narration, RepeatsEmptyTextsAndFurtherHintLinesAreDropped)
+TEST_F(Narration, OnlyNewLinesAreListed)
 {
     game.ListMove(SideHuman, "same");
     game.ListMove(SideHuman, "same");

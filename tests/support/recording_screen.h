@@ -52,25 +52,43 @@ public:
     void DrawPot(int16_t Pot, const std::string& Text) override;
     void DrawPotHot(int16_t Pot, const std::string& Text) override;
     std::string potTag(int16_t index) const override { return tags.at(index); }
-    void setPotEnabled(int16_t slot, bool enabled) override;
-    void setMessCaption(const std::string& caption) override;
-    void setMessEnabled(bool enabled) override;
-    void showMess() override;
-    void setUndoxEnabled(bool enabled) override;
-    void setCommandFrameEnabled(bool enabled) override;
-    void setPausexCaption(const std::string& caption) override;
-    void setStartBeadsEnabled(bool enabled) override;
+    void setPotEnabled(int16_t slot, bool enabled) override
+    {
+        set("enabled:" + std::to_string(slot), potEnabled.at(slot), enabled);
+    }
+    void setMessCaption(const std::string& caption) override { set("mess", messCaption, caption); }
+    void setMessEnabled(bool enabled) override { set("messEnabled", messEnabled, enabled); }
+    void showMess() override { set("showMess", messVisible, true); }
+    void setUndoxEnabled(bool enabled) override { set("undox", undoxEnabled, enabled); }
+    void setCommandFrameEnabled(bool enabled) override
+    {
+        set("frame", commandFrameEnabled, enabled);
+    }
+    void setPausexCaption(const std::string& caption) override
+    {
+        set("pausex", pausexCaption, caption);
+    }
+    void setStartBeadsEnabled(bool enabled) override { set("slider", startBeadsEnabled, enabled); }
     int16_t startBeadsValue() const override { return startBeads; }
-    void setStartBeadsValue(int16_t value) override;
-    void setLabel2Caption(const std::string& caption) override;
-    void setHandLeft(float left) override;
-    void setHandTop(float top) override;
-    void setHandVisible(bool visible) override;
+    // Like the real slider, a write that changes the value raises the change before
+    // it returns.
+    void setStartBeadsValue(int16_t value) override
+    {
+        calls.push_back("sliderValue:" + std::to_string(value));
+        moveSlider(value);
+    }
+    void setLabel2Caption(const std::string& caption) override { set("label2", label2, caption); }
+    void setHandLeft(float left) override { set("handLeft", handLeft, left); }
+    void setHandTop(float top) override { set("handTop", handTop, top); }
+    void setHandVisible(bool visible) override { set("hand", handShown, visible); }
     bool handVisible() const override { return handShown; }
     float potNameLeft(int16_t index) const override { return letterLeft.at(index); }
     float potNameTop(int16_t) const override { return letterTop; }
-    void setTotalBCaption(int16_t index, const std::string& caption) override;
-    void setUpMovesList() override;
+    void setTotalBCaption(int16_t index, const std::string& caption) override
+    {
+        set("total:" + std::to_string(index), totalB.at(index), caption);
+    }
+    void setUpMovesList() override { calls.push_back("setUpMovesList"); }
     void movesListAdditem(std::string& s, int16_t itemx, int16_t& ipic, std::string& ItemFont,
                           int32_t& ItemColor) override;
     void movesListAdditem(std::string& s, int16_t itemx) override;
@@ -87,7 +105,14 @@ public:
     std::vector<std::string> callsStartingWith(const std::string& prefix) const;
 
 private:
-    void record(const std::string& call) { calls.push_back(call); }
+    static std::string shown(bool on) { return on ? "1" : "0"; }
+    static std::string shown(const std::string& text) { return text; }
+    static std::string shown(float number) { return std::to_string(number); }
+    template <typename T> void set(const std::string& name, T& field, const T& value)
+    {
+        calls.push_back(name + ":" + shown(value));
+        field = value;
+    }
 };
 
 // Compact board notation in slot order: "0 4 4 4 3 3 |0| 3 3 3 3 3 3 |0".
