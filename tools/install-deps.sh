@@ -1,15 +1,26 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build needs, and only those that are missing.
+# Installs the Debian packages a build needs, and only those that are missing.
+#   install-deps.sh play   what building and playing the game needs
+#   install-deps.sh test   that, and what the tests, fuzzers, benchmarks and checks need
 set -euo pipefail
 
-packages=(
+play=(
   cmake ninja-build g++ make pkg-config
-  qt6-base-dev qt6-base-dev-tools libgl-dev
+  qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev
+  fonts-liberation2
+)
+test=(
   libgtest-dev libgmock-dev libbenchmark-dev
-  fonts-dejavu-core fonts-liberation fonts-liberation2 xvfb xauth
+  fonts-dejavu-core fonts-liberation xvfb xauth
   appstream desktop-file-utils dpkg-dev
   clang libclang-rt-14-dev
 )
+
+case "${1:-test}" in
+  play) packages=("${play[@]}") ;;
+  test) packages=("${play[@]}" "${test[@]}") ;;
+  *) echo "usage: $0 play|test" >&2; exit 2 ;;
+esac
 
 missing=()
 for p in "${packages[@]}"; do
