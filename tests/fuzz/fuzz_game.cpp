@@ -22,7 +22,7 @@ struct GameRun {
         game.Form_Load();
     }
 
-    bool free() const { return !game.busy() && !state.GameFinished; }
+    bool canMove() const { return !game.busy() && !state.GameFinished; }
 
     // The board the action must leave; none after undo, which lays down its own.
     std::optional<ref::Ring> act(int kind)
@@ -31,15 +31,15 @@ struct GameRun {
         std::copy(state.Beads.begin(), state.Beads.end(), r.begin());
         // A pot with beads is played, with the computer's reply, unless something runs.
         const auto playing = [&](int s) {
-            if (free() && isHumanPot(s) && state.Beads[s] > 0)
+            if (canMove() && isHumanPot(s) && state.Beads[s] > 0)
                 ref::playerMove(r, s);
         };
         const auto fresh = [&](int16_t count) {
             r.fill(count);
             r[HumanBank] = r[ComputerBank] = 0;
         };
-        // The window lets a pot event through only from an enabled pot; the right
-        // button's preview only shows the sowing on the faces.
+        // Kinds 0 and 2 are left clicks, 1 a right one. The window lets a pot event through
+        // only from an enabled pot; the right button's preview only shows the sowing.
         const auto s = static_cast<int16_t>(kind < 3 ? in.pick(SlotCount) : 0);
         if (kind < 3 && (isBank(s) || (isHumanPot(s) ? !screen.potEnabled[s] : state.GameFinished)))
             return r;
@@ -50,17 +50,17 @@ struct GameRun {
             playing(s);
             game.Pots_MouseUp(s, 1, 0, 0, 0);
         } else if (kind == 3 && screen.undoxEnabled && screen.commandFrameEnabled) {
-            const bool undone = free();
+            const bool undone = canMove();
             game.Undox_Click();
             if (undone)
                 return std::nullopt;
         } else if (kind == 4) {
-            if (free())
+            if (canMove())
                 ref::forcedTurn(r);
             game.TakeComp_Click();
         } else if (kind == 5) {
             // The held hint shows the computer's turn played for the human, board turned.
-            if (free()) {
+            if (canMove()) {
                 hintFrom = r;
                 r = ref::turned(r);
                 ref::computerTurn(r);
@@ -129,8 +129,8 @@ struct GameRun {
         for (int s = 0; s < SlotCount; ++s)
             if (std::atoi(screen.tags[s].c_str()) != now[s])
                 fail("a face differs from the board");
-        const bool over =
-            std::count(&now[0], &now[6], 0) == 6 || std::count(&now[7], &now[13], 0) == 6;
+        const bool over = std::count(&now[FirstHumanPot], &now[HumanBank], 0) == PotsPerRow ||
+                          std::count(&now[FirstComputerPot], &now[ComputerBank], 0) == PotsPerRow;
         freshAfterEnd = freshAfterEnd && state.GameFinished;
         if ((state.GameFinished != over && !freshAfterEnd) ||
             screen.messEnabled != state.GameFinished)

@@ -19,8 +19,8 @@ namespace {
 
 using namespace ListErrorCode;
 
-// Short texts from a few characters, so that sorting meets equal texts and finding
-// meets matches; no TAB, which callers must keep out of a text.
+// Short texts from a few characters, so that sorting meets equal texts and texts that
+// differ only in case; no TAB, which callers must keep out of a text.
 QString Text(FuzzInput& in, int most)
 {
     static const QString letters = QString::fromUtf8("aAbB1 *?[]#-!\u0131\u00DF");

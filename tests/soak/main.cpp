@@ -2,7 +2,8 @@
 // Every move is a forced turn, which also plays the computer's reply, each step of it
 // paused and clicked through; each user action is an event of its own, so the window
 // paints and tidies up in between as it does for a player. The bead count goes round
-// the slider's range.
+// the slider's range. After every move: the board, the faces, the enabled controls and
+// the bar; at every restart: the log's clearing; over a long run: the memory.
 #include "controls/quillet.h"
 #include "moveslist/usercontrol1.h"
 #include "window/form1.h"
@@ -92,20 +93,18 @@ struct Soak {
     // never. A forced turn takes no undo snapshot and does not lock the bead count.
     void check()
     {
-        const GameState& st = form.game().state();
-        const bool over = std::count(&st.Beads[0], &st.Beads[6], 0) == 6 ||
-                          std::count(&st.Beads[7], &st.Beads[13], 0) == 6;
+        const Board& b = form.game().state().Beads;
+        const bool over = std::count(&b[FirstHumanPot], &b[HumanBank], 0) == PotsPerRow ||
+                          std::count(&b[FirstComputerPot], &b[ComputerBank], 0) == PotsPerRow;
         // Every turn banks a bead or carries beads nearer a bank: no game lasts that long.
-        expect(over == st.GameFinished && turns < 100000 &&
-                   std::accumulate(st.Beads.begin(), st.Beads.end(), 0) == 12 * count,
+        expect(over == form.game().state().GameFinished && turns < 100000 &&
+                   std::accumulate(b.begin(), b.end(), 0) == 12 * count,
                "the game's end and the rows disagree, or beads came or went");
         for (int s = 0; s < SlotCount; ++s) {
             const Quillet* pot = child<Quillet>(QStringLiteral("Pots%1").arg(s));
-            const bool open =
-                !over && (isHumanPot(s) ? st.Beads[s] > 0 : isComputerPot(s) && game > 0);
-            expect(st.Beads[s] >= 0 && pot->Tag().toInt() == st.Beads[s] &&
-                       (turns > 1 || st.Beads[s] == (isBank(s) ? 0 : count)) &&
-                       pot->isEnabled() == open,
+            const bool open = !over && (isHumanPot(s) ? b[s] > 0 : isComputerPot(s) && game > 0);
+            expect(b[s] >= 0 && pot->Tag().toInt() == b[s] && pot->isEnabled() == open &&
+                       (turns > 1 || b[s] == (isBank(s) ? 0 : count)),
                    "a slot is negative, laid out, shown or enabled wrongly");
         }
         const QString move = turns == 1 ? "YOUR MOVE NOW" : "AGAIN YOUR MOVE NOW";
