@@ -1,134 +1,97 @@
 // The engine driven by any sequence of what a user can do in the window, nested inside
-// the pause of a computer's move too, with the bead invariants checked after each step
-// and every played move checked against the plain reading of the rules.
+// the pause of a computer's move too. After each step the board is the one the rules
+// give, no bead came or went, and the faces, the bar and the game's end agree with it.
 #include "fuzzinput.h"
 #include "recording_screen.h"
 #include "reference_rules.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <numeric>
 #include <optional>
-#include <string>
-#include <tuple>
 
 namespace {
 
 // Enough for a few whole games; longer inputs only repeat themselves.
 constexpr int MaxActions = 300;
 
-class GameRun {
-public:
-    explicit GameRun(FuzzInput& in) : in(in)
+struct GameRun {
+    explicit GameRun(FuzzInput& input) : in(input)
     {
         screen.onPendingEvents = [this] { whilePaused(); };
         screen.onStartBeadsChange = [this] { game.StartBeads_Change(); };
         game.Form_Load();
-        settle();
     }
 
-    void play()
-    {
-        for (int n = 0; n < MaxActions && !in.done(); ++n) {
-            const Board before = state.Beads;
-            act(in.pick(12));
-            check(before);
-        }
-    }
+    bool canMove() const { return !game.busy() && !state.GameFinished; }
 
-private:
-    [[noreturn]] void fail(const std::string& what) const
+    // The board the action must leave; none after undo, which lays down its own.
+    std::optional<ref::Ring> act(int kind)
     {
-        std::fprintf(stderr, "%s after action %d: board %s, start %d\n", what.c_str(), actions,
-                     formatBoard(state.Beads).c_str(), state.StartBeadCount);
-        std::abort();
-    }
-
-    // The window lets a pot event through only from an enabled pot; the banks never are.
-    bool takesEvents(int16_t s) const
-    {
-        if (isBank(s))
-            return false;
-        return isHumanPot(s) ? screen.potEnabled[s] : !state.GameFinished;
-    }
-
-    bool idle() const { return !game.busy() && !state.GameFinished && !state.PreviewActive; }
-
-    void act(int kind)
-    {
-        ++actions;
-        relaid = false;
-        expectPlay = -1;
-        expectForcedTurn = false;
-        switch (kind) {
-        case 0: {
-            const auto s = static_cast<int16_t>(in.pick(SlotCount));
-            if (!takesEvents(s))
-                return;
-            if (idle() && isHumanPot(s) && state.Beads[s] > 0)
-                expectPlay = s;
-            return game.Pots_MouseUp(s, 1, 0, 0, 0);
-        }
-        case 1: {
-            const auto s = static_cast<int16_t>(in.pick(SlotCount));
-            if (!takesEvents(s))
-                return;
+        ref::Ring r{};
+        std::copy(state.Beads.begin(), state.Beads.end(), r.begin());
+        // A pot with beads is played, with the computer's reply, unless something runs.
+        const auto playing = [&](int s) {
+            if (canMove() && isHumanPot(s) && state.Beads[s] > 0)
+                ref::playerMove(r, s);
+        };
+        const auto fresh = [&](int16_t count) {
+            r.fill(count);
+            r[HumanBank] = r[ComputerBank] = 0;
+        };
+        // Kinds 0 and 2 are left clicks, 1 a right one. The window lets a pot event through
+        // only from an enabled pot; the right button's preview only shows the sowing.
+        const auto s = static_cast<int16_t>(kind < 3 ? in.pick(SlotCount) : 0);
+        if (kind < 3 && (isBank(s) || (isHumanPot(s) ? !screen.potEnabled[s] : state.GameFinished)))
+            return r;
+        if (kind == 1) {
             game.Pots_MouseDown(s, 2, 0, 0, 0);
-            return game.Pots_MouseUp(s, 2, 0, 0, 0);
+            game.Pots_MouseUp(s, 2, 0, 0, 0);
+        } else if (kind < 3) {
+            playing(s);
+            game.Pots_MouseUp(s, 1, 0, 0, 0);
+        } else if (kind == 3 && screen.undoxEnabled && screen.commandFrameEnabled) {
+            const bool undone = canMove();
+            game.Undox_Click();
+            if (undone)
+                return std::nullopt;
+        } else if (kind == 4) {
+            if (canMove())
+                ref::forcedTurn(r);
+            game.TakeComp_Click();
+        } else if (kind == 5) {
+            // The held hint shows the computer's turn played for the human, board turned.
+            if (canMove()) {
+                hintFrom = r;
+                r = ref::turned(r);
+                ref::computerTurn(r);
+            }
+            game.GiveHint_MouseDown(1, 0, 0, 0);
+        } else if (kind == 6) {
+            if (state.HintActive)
+                r = hintFrom;
+            game.GiveHint_MouseUp(1, 0, 0, 0);
+        } else if (kind == 7 && screen.commandFrameEnabled) {
+            game.Pausex_Click();
+        } else if (kind == 8 || kind == 9) {
+            const int16_t key = kind == 8 ? in.word() : KeyEnter;
+            if (key == KeyEnter)
+                playing(state.KeyboardPot);
+            game.Form_KeyDown(key, static_cast<int16_t>(kind == 8 ? in.pick(8) : 0));
+        } else if (kind == 10 && screen.startBeadsEnabled) {
+            // The slider holds still under a running move. Only a pot event locks it, so
+            // a game that forced turns to its end can take a fresh board before its restart.
+            const auto value = static_cast<int16_t>(2 + in.pick(98));
+            if (!game.busy() && value != screen.startBeads) {
+                fresh(value);
+                freshAfterEnd = state.GameFinished;
+            }
+            screen.moveSlider(value);
+        } else if (kind == 11 && screen.messEnabled) {
+            if (state.GameFinished)
+                fresh(state.StartBeadCount);
+            game.Mess_Click();
         }
-        case 2: {
-            // Slots the window does not have: the engine turns them away itself.
-            const int16_t bad[] = {-1, 14, 15, -32768, 32767, 100};
-            return game.Pots_MouseUp(bad[in.pick(6)], static_cast<int16_t>(in.pick(4)), 0, 0, 0);
-        }
-        case 3:
-            if (!screen.undoxEnabled || !screen.commandFrameEnabled)
-                return;
-            relaid = !game.busy() && !state.GameFinished;
-            return game.Undox_Click();
-        case 4:
-            expectForcedTurn = idle() && screen.commandFrameEnabled;
-            return game.TakeComp_Click();
-        case 5:
-            if (!state.HintActive)
-                hintFrom = state.Beads;
-            return game.GiveHint_MouseDown(1, 0, 0, 0);
-        case 6:
-            return game.GiveHint_MouseUp(1, 0, 0, 0);
-        case 7:
-            if (screen.commandFrameEnabled)
-                game.Pausex_Click();
-            return;
-        case 8:
-            return game.Form_KeyDown(in.word(), static_cast<int16_t>(in.pick(8)));
-        case 9:
-            if (idle() && isHumanPot(state.KeyboardPot) && state.Beads[state.KeyboardPot] > 0)
-                expectPlay = state.KeyboardPot;
-            return game.Form_KeyDown(KeyEnter, 0);
-        case 10:
-            return moveSlider(static_cast<int16_t>(2 + in.pick(98)));
-        default:
-            if (!screen.messEnabled)
-                return;
-            relaid = state.GameFinished;
-            return game.Mess_Click();
-        }
-    }
-
-    // The slider holds still under a running move; the game puts it back.
-    void moveSlider(int16_t value)
-    {
-        if (!screen.startBeadsEnabled)
-            return;
-        if (!game.busy() && value != screen.startBeads) {
-            relaid = true;
-            // Nothing but a pot event locks the slider, so a game that forced turns
-            // ended can take a fresh board while it waits for its restart.
-            freshBoardAfterEnd = state.GameFinished;
-        }
-        screen.moveSlider(value);
+        return r;
     }
 
     // Each turn of the pause's event loop runs one more action; only the click on the
@@ -136,128 +99,60 @@ private:
     // the same turn, still inside the computer's move.
     void whilePaused()
     {
-        if (in.done() || paused || in.pick(4) == 0) {
+        if (in.done() || nested || in.pick(4) == 0) {
             game.Mess_Click();
-            if (!in.done() && !paused && in.pick(2) == 0)
-                actInsideTheMove();
-            return;
+            if (in.done() || nested || in.pick(2) != 0)
+                return;
         }
-        actInsideTheMove();
-    }
-
-    // Nothing run inside the computer's move may touch the board.
-    void actInsideTheMove()
-    {
-        // The action inside must not disturb what the move around it expects.
-        const auto outer = std::tuple(expectPlay, expectForcedTurn, relaid, hintFrom);
-        paused = true;
+        // No bead count in here: a capture is told between crediting the bank and
+        // clearing the two pots.
         const Board before = state.Beads;
+        nested = true;
         act(in.pick(12));
-        paused = false;
-        std::tie(expectPlay, expectForcedTurn, relaid, hintFrom) = outer;
-        // No bead count here: a capture is told between crediting the bank and clearing
-        // the two pots, so a pause can hold a board with the captured beads counted twice.
+        nested = false;
         if (state.Beads != before)
             fail("an event inside the computer's move changed the board");
     }
 
-    void checkBeads() const
+    void check(const std::optional<ref::Ring>& expected)
     {
-        for (const int16_t count : state.Beads)
-            if (count < 0)
-                fail("a negative count");
-        if (std::accumulate(state.Beads.begin(), state.Beads.end(), 0) != 12 * state.StartBeadCount)
+        const Board& now = state.Beads;
+        if (expected && !std::equal(now.begin(), now.end(), expected->begin()))
+            fail("a board the rules do not give");
+        if (std::any_of(now.begin(), now.end(), [](int n) { return n < 0; }) ||
+            std::accumulate(now.begin(), now.end(), 0) != 12 * state.StartBeadCount)
             fail("beads came or went");
-    }
-
-    static bool rowEmpty(const Board& b, int first)
-    {
-        for (int s = first; s < first + 6; ++s)
-            if (b[s] > 0)
-                return false;
-        return true;
-    }
-
-    static ref::Ring toRing(const Board& b)
-    {
-        ref::Ring r{};
-        std::copy(b.begin(), b.end(), r.begin());
-        return r;
-    }
-
-    void checkAgainstRules(const Board& before) const
-    {
-        ref::Ring expected = toRing(before);
-        if (expectPlay >= 0) {
-            ref::playerMove(expected, expectPlay);
-        } else if (expectForcedTurn) {
-            ref::forcedTurn(expected);
-        } else {
+        if (state.WaitingForClick != 0 || state.HintActive != state.BoardMirrored)
+            fail("a pause waits after its handler returned, or the board is turned wrongly");
+        if (state.HintActive)
             return;
-        }
-        if (expected != toRing(state.Beads))
-            fail("the move does not follow the rules from " + formatBoard(before));
+        for (int s = 0; s < SlotCount; ++s)
+            if (std::atoi(screen.tags[s].c_str()) != now[s])
+                fail("a face differs from the board");
+        const bool over = std::count(&now[FirstHumanPot], &now[HumanBank], 0) == PotsPerRow ||
+                          std::count(&now[FirstComputerPot], &now[ComputerBank], 0) == PotsPerRow;
+        freshAfterEnd = freshAfterEnd && state.GameFinished;
+        if ((state.GameFinished != over && !freshAfterEnd) ||
+            screen.messEnabled != state.GameFinished)
+            fail("the game's end, the rows and the message bar disagree");
     }
-
-    void check(const Board& before)
-    {
-        checkBeads();
-        if (state.WaitingForClick != 0)
-            fail("a pause still waits after its handler returned");
-        if (state.HintActive) {
-            if (!state.BoardMirrored)
-                fail("a held hint without the turned board");
-            return;
-        }
-        if (state.BoardMirrored)
-            fail("the board stays turned");
-        if (hintFrom && state.Beads != *hintFrom)
-            fail("the hint's release did not put the board back");
-        hintFrom.reset();
-        checkAgainstRules(before);
-        checkBanks();
-        const bool over = rowEmpty(state.Beads, 0) || rowEmpty(state.Beads, 7);
-        if (!state.GameFinished)
-            freshBoardAfterEnd = false;
-        if (state.GameFinished != over && !freshBoardAfterEnd)
-            fail(state.GameFinished ? "a game over with beads on both rows"
-                                    : "a row is empty and the game goes on");
-        if (screen.messEnabled != state.GameFinished)
-            fail("the message bar takes clicks outside a pause and a game's end");
-        if (state.RunningTotals[1] < 0 || state.RunningTotals[2] < 0)
-            fail("a negative running total");
-    }
-
-    // Banks only grow; undo, a restart and the slider lay down a board of their own.
-    void checkBanks()
-    {
-        if (!relaid && (state.Beads[HumanBank] < banks[0] || state.Beads[ComputerBank] < banks[1]))
-            fail("a bank lost beads");
-        relaid = false;
-        banks = {state.Beads[HumanBank], state.Beads[ComputerBank]};
-    }
-
-    void settle() { banks = {state.Beads[HumanBank], state.Beads[ComputerBank]}; }
 
     FuzzInput& in;
     RecordingScreen screen;
     Game game{screen};
     GameState& state = game.stateForTests();
-    int actions = 0;
-    bool paused = false;
-    int expectPlay = -1;
-    bool expectForcedTurn = false;
-    bool relaid = false;
-    bool freshBoardAfterEnd = false;
-    std::optional<Board> hintFrom;
-    std::array<int16_t, 2> banks{};
+    ref::Ring hintFrom{};
+    bool nested = false;
+    bool freshAfterEnd = false;
 };
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    FuzzInput in(data, size);
-    GameRun(in).play();
+    FuzzInput in{data, size};
+    GameRun run(in);
+    for (int n = 0; n < MaxActions && !in.done(); ++n)
+        run.check(run.act(in.pick(12)));
     return 0;
 }
