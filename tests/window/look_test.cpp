@@ -37,7 +37,7 @@ void expectEveryCaptionFits(const Form1& form)
         check(label, label->text());
 }
 
-void Click(Form1& form, const char* name)
+void clickOn(Form1& form, const char* name)
 {
     QTest::mouseClick(form.findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
 }
@@ -59,7 +59,7 @@ TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
 {
     expectEveryCaptionFits(form);
     for (int turn = 0; turn < 300 && !form.game().state().GameFinished; ++turn) {
-        Click(form, "TakeComp");
+        clickOn(form, "TakeComp");
         expectEveryCaptionFits(form);
     }
     ASSERT_TRUE(form.game().state().GameFinished);
@@ -68,7 +68,7 @@ TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
 TEST_F(Look, TheLogSaysWhoseEachRowIs)
 {
     QAccessible::setActive(true);
-    Click(form, "Pots0");
+    clickOn(form, "Pots0");
     auto* list = form.findChild<UserControl1*>(QStringLiteral("MovesList"));
     QAccessibleInterface* log = QAccessible::queryAccessibleInterface(list);
     ASSERT_NE(log, nullptr);
@@ -139,7 +139,7 @@ protected:
 // pixels; a canvas drawn at ratio 1 and scaled up has none.
 TEST_F(WindowAtRatioTwo, TheLogIsDrawnSharp)
 {
-    Click(form, "Pots0");
+    clickOn(form, "Pots0");
     const auto* list = form.findChild<UserControl1*>(QStringLiteral("MovesList"));
     const QImage canvas = list->canvas();
     ASSERT_EQ(canvas.devicePixelRatio(), 2.0);
