@@ -124,6 +124,24 @@ TEST_F(Look, TheLogSaysWhoseEachRowIs)
     EXPECT_TRUE(newest->text(QAccessible::Name).isEmpty());
 }
 
+// The log is ruled: a grid line of one colour runs across the canvas under each row.
+TEST_F(Look, TheLogIsRuledBetweenItsRows)
+{
+    const QImage canvas = form.findChild<UserControl1*>(QStringLiteral("MovesList"))
+                              ->canvas()
+                              .convertToFormat(QImage::Format_RGB32);
+    const QRgb paper = canvas.pixel(canvas.width() - 1, 0);
+    int ruled = 0;
+    for (int y = 0; y < canvas.height(); ++y) {
+        const QRgb first = canvas.pixel(0, y);
+        bool across = first != paper;
+        for (int x = 1; across && x < canvas.width(); ++x)
+            across = canvas.pixel(x, y) == first;
+        ruled += across;
+    }
+    EXPECT_GE(ruled, 2) << "one line under each opening line";
+}
+
 // These run again on a screen of ratio 2 (see CMakeLists.txt).
 class WindowAtRatioTwo : public Look {
 protected:
