@@ -4,6 +4,7 @@
 # (not installed), answers --help and --version without a display, says in one line
 # that there is no display, has its files where the desktop looks for them, and its
 # desktop entry and AppStream data pass their checkers with no remark at all.
+#   check-package.sh [--no-build]   --no-build checks the package already in $BUILD
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${BUILD:-build}
@@ -13,7 +14,7 @@ fail() {
   exit 1
 }
 
-make package BUILD="$build"
+[[ ${1:-} == --no-build ]] || make package BUILD="$build"
 shopt -s nullglob
 debs=("$build"/tavok_*.deb)
 changes=("$build"/tavok_*.changes)
