@@ -22,7 +22,8 @@ void Form1::Scorex_MouseUp(int16_t, int16_t, float, float)
 
 // The page lies beside the program in the build folder; an installed game keeps it
 // in its data folder, found from the program's folder wherever the game was installed,
-// or where the build put it. Where it is nowhere, the help window says so.
+// or where the build put it. Where it is nowhere, the help window names the place an
+// installed game would have it.
 static QString helpPagePath()
 {
     const QString name = QStringLiteral("tavok.htm");
@@ -35,7 +36,7 @@ static QString helpPagePath()
     for (const QString& place : places)
         if (QFileInfo::exists(place))
             return QDir::cleanPath(place);
-    return places[0];
+    return QDir::cleanPath(places[1]);
 }
 
 void Form1::Helpx_Click()
