@@ -55,12 +55,11 @@ soak: test-build
 bench: test-build
 	@$(BUILD)/bench/tavok-bench
 
-# A Debian package of the game, in the build folder.
+# The Debian package of the game, built by dpkg-buildpackage from a copy of the sources:
+# $(BUILD)/tavok_<version>_<arch>.deb, with its debug symbols beside it.
 package:
-	@tools/install-deps.sh play
-	@cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) -DBUILD_TESTING=OFF -DTAVOK_BENCH=OFF >/dev/null
-	@cmake --build $(BUILD)
-	@cd $(BUILD) && cpack
+	@tools/install-deps.sh package
+	@packaging/build-package.sh $(BUILD)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

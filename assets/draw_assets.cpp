@@ -1,5 +1,7 @@
 // Draws every picture of the game, at 1x and at 2x, into the assets folder:
 //   draw_assets <assets folder> [--sheet <contact sheet.png>]
+// and the desktop's icons of the game, 16 to 512 pixels, into packaging/icons:
+//   draw_assets --icons <icons folder>
 // The pictures are committed; the build never runs this. Run it again after a change
 // here, and look at the contact sheet enlarged before committing.
 
@@ -11,6 +13,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRadialGradient>
 #include <QString>
 
 #include <algorithm>
@@ -278,6 +281,20 @@ void drawBoard(QPainter& painter)
     painter.drawPolygon(QPolygonF({QPointF(22, 18.5), QPointF(19, 16), QPointF(19, 21)}));
 }
 
+// The arrows stand in boxes of 600 twips, 40 pixels at 1x: drawn at that size, they
+// are never scaled on the screen.
+constexpr int ArrowSize = 40;
+
+std::function<QImage(int)> arrow(const QColor& colour, bool turned)
+{
+    return [colour, turned](int scale) {
+        return painted(ArrowSize, scale, [colour, turned](QPainter& painter) {
+            painter.scale(ArrowSize / double(Grid), ArrowSize / double(Grid));
+            drawArrow(painter, colour, turned);
+        });
+    };
+}
+
 std::vector<Picture> pictures()
 {
     const auto vector = [](const Draw& draw) {
@@ -294,8 +311,8 @@ std::vector<Picture> pictures()
         {"disc_green_sunken", Grid, discOf(Green, true)},
         {"disc_red_raised", Grid, discOf(Red, false)},
         {"disc_red_sunken", Grid, discOf(Red, true)},
-        {"arrow_red", Grid, vector([](QPainter& p) { drawArrow(p, QColor(255, 0, 0), false); })},
-        {"arrow_green", Grid, vector([](QPainter& p) { drawArrow(p, QColor(0, 128, 0), true); })},
+        {"arrow_red", ArrowSize, arrow(QColor(255, 0, 0), false)},
+        {"arrow_green", ArrowSize, arrow(QColor(0, 128, 0), true)},
     };
 }
 
@@ -366,19 +383,116 @@ bool saveSheets(const std::vector<Picture>& all, const QString& path)
     return written;
 }
 
+// ---- the desktop's icon ---------------------------------------------------------------
+
+// The miniature board drawn large, on 256 units, as packaging/icons/tavok.svg draws it:
+// round pots lit from the upper left, the banks as long pots, the wood shaded.
+constexpr int IconGrid = 256;
+
+QRadialGradient litFromUpperLeft(const QColor& light, const QColor& dark)
+{
+    QRadialGradient gradient(QPointF(0.35, 0.3), 0.75);
+    gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
+    gradient.setColorAt(0, light);
+    gradient.setColorAt(1, dark);
+    return gradient;
+}
+
+void drawIcon(QPainter& painter)
+{
+    QLinearGradient wood(0, 46, 0, 210);
+    wood.setColorAt(0, QColor(0xe2, 0xb5, 0x74));
+    wood.setColorAt(1, QColor(0xc0, 0x8a, 0x48));
+    painter.setPen(QPen(QColor(0x6e, 0x46, 0x1e), 8));
+    painter.setBrush(wood);
+    painter.drawRoundedRect(QRectF(6, 46, 244, 164), 22, 22);
+
+    const auto row = [&painter](double bankLeft, double y, const QColor& light, const QColor& dark,
+                                const QColor& edge) {
+        painter.setPen(QPen(edge, 2));
+        painter.setBrush(litFromUpperLeft(light, dark));
+        painter.drawRoundedRect(QRectF(bankLeft, 66, 24, 124), 12, 12);
+        for (int i = 0; i < 6; ++i)
+            painter.drawEllipse(QPointF(58 + 28 * i, y), 11, 11);
+    };
+    row(16, 84, QColor(0xff, 0x70, 0x70), QColor(0xc0, 0x00, 0x00), QColor(0x6e, 0x00, 0x00));
+    row(216, 172, QColor(0x66, 0xee, 0x66), QColor(0x00, 0x88, 0x00), QColor(0x00, 0x44, 0x00));
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 0, 255));
+    painter.drawRect(QRectF(100, 112, 64, 8));
+    painter.drawPolygon(QPolygonF({QPointF(76, 116), QPointF(100, 98), QPointF(100, 134)}));
+    painter.drawRect(QRectF(92, 136, 64, 8));
+    painter.drawPolygon(QPolygonF({QPointF(180, 140), QPointF(156, 122), QPointF(156, 158)}));
+}
+
+// At 16 pixels the pots would run together: the board is set pixel by pixel, one pixel
+// a pot, the middle gap wider so that both rows lie even between the banks, and no
+// room for the way of the sowing. k edge, w wood, r red, g green.
+const char* const SmallIcon[16] = {
+    "................", //
+    "................", //
+    ".kkkkkkkkkkkkkk.", //
+    "kwwwwwwwwwwwwwwk", //
+    "kwrwrwrwwrwrwrwk", //
+    "kwrwrwrwwrwrwrwk", //
+    "krwwwwwwwwwwwwgk", //
+    "krwwwwwwwwwwwwgk", //
+    "krwwwwwwwwwwwwgk", //
+    "krwwwwwwwwwwwwgk", //
+    "kwgwgwgwwgwgwgwk", //
+    "kwgwgwgwwgwgwgwk", //
+    "kwwwwwwwwwwwwwwk", //
+    ".kkkkkkkkkkkkkk.", //
+    "................", //
+    "................", //
+};
+
+QImage smallIcon()
+{
+    QImage image = blank(16, 1);
+    for (int y = 0; y < 16; ++y) {
+        for (int x = 0; x < 16; ++x) {
+            switch (SmallIcon[y][x]) {
+            case 'k':
+                image.setPixelColor(x, y, QColor(110, 70, 30));
+                break;
+            case 'w':
+                image.setPixelColor(x, y, QColor(210, 160, 90));
+                break;
+            case 'r':
+                image.setPixelColor(x, y, QColor(255, 0, 0));
+                break;
+            case 'g':
+                image.setPixelColor(x, y, QColor(0, 187, 0));
+                break;
+            default:
+                break;
+            }
+        }
+    }
+    return image;
+}
+
 } // namespace
 
-// The desktop's icons of the game: the miniature board at the theme's sizes.
+// The desktop's icons of the game at the theme's sizes: at 16 pixels set by hand, at
+// 24 and 32 the small board, from 48 the large one.
 bool saveIcons(const QDir& folder)
 {
     bool written = true;
-    for (int pixels : {32, 48, 64, 128}) {
+    written &= save(smallIcon(), folder.filePath(QString("tavok-16.png")));
+    for (int pixels : {24, 32, 48, 64, 128, 256, 512}) {
         QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(pixels / double(Grid), pixels / double(Grid));
-        drawBoard(painter);
+        const int grid = pixels <= Grid ? Grid : IconGrid;
+        painter.scale(pixels / double(grid), pixels / double(grid));
+        if (grid == Grid)
+            drawBoard(painter);
+        else
+            drawIcon(painter);
         painter.end();
         written &= save(image, folder.filePath(QString("tavok-%1.png").arg(pixels)));
     }

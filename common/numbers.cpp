@@ -9,7 +9,11 @@ std::string numberText(double n)
 {
     char text[32];
     std::snprintf(text, sizeof text, "%.15g", n);
-    return n < 0 ? std::string(text) : " " + std::string(text);
+    // Built in one string: a blank added to a temporary makes g++ -O3 see an overlap
+    // that is not there.
+    std::string result(n < 0 ? 0 : 1, ' ');
+    result += text;
+    return result;
 }
 
 std::string digits(long long n)

@@ -1,11 +1,15 @@
 #include "controls/marlet.h"
 
+#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSettings>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <cstdio>
+#include <limits>
 
 namespace Marlets {
 
@@ -102,19 +106,54 @@ void Marlet::ScoreTitle(const QString& New_ScoreTitle)
     loadRecord();
 }
 
-// Each title keeps its own record, under the game's own name.
+namespace {
+
+QString recordFile(const QSettings& settings)
+{
+    return QDir::toNativeSeparators(settings.fileName());
+}
+
+// One more game, but a count at its greatest stays there rather than wrap round.
+void countOne(int& count)
+{
+    if (count < std::numeric_limits<int>::max())
+        ++count;
+}
+
+} // namespace
+
+// Each title keeps its own record, under the game's own name. A record that cannot be
+// read, or holds anything but counts, leaves the board empty: the player is told once,
+// and the next game writes a sound record over it.
 void Marlet::loadRecord()
 {
     if (!s_keepRecords)
         return;
     QSettings settings(QStringLiteral("Tavok"), QStringLiteral("Tavok"));
     settings.beginGroup(QStringLiteral("Score/") + m_title->text());
-    m_wins = qMax(0, settings.value(QStringLiteral("won"), 0).toInt());
-    m_losses = qMax(0, settings.value(QStringLiteral("lost"), 0).toInt());
-    m_draws = qMax(0, settings.value(QStringLiteral("drawn"), 0).toInt());
+    int counts[3] = {0, 0, 0};
+    bool sound = settings.status() == QSettings::NoError;
+    const char* const keys[3] = {"won", "lost", "drawn"};
+    for (int i = 0; i < 3 && sound; ++i) {
+        const QVariant value = settings.value(QLatin1String(keys[i]), 0);
+        bool isNumber = false;
+        counts[i] = value.toInt(&isNumber);
+        sound = isNumber && counts[i] >= 0;
+    }
+    if (!sound) {
+        std::fprintf(
+            stderr,
+            "tavok: the score record %s is damaged or unreadable; the score board starts empty\n",
+            qPrintable(recordFile(settings)));
+        counts[0] = counts[1] = counts[2] = 0;
+    }
+    m_wins = counts[0];
+    m_losses = counts[1];
+    m_draws = counts[2];
     refresh();
 }
 
+// A record that cannot be written is said once; the board goes on counting this run.
 void Marlet::saveRecord() const
 {
     if (!s_keepRecords)
@@ -124,6 +163,14 @@ void Marlet::saveRecord() const
     settings.setValue(QStringLiteral("won"), m_wins);
     settings.setValue(QStringLiteral("lost"), m_losses);
     settings.setValue(QStringLiteral("drawn"), m_draws);
+    settings.sync();
+    static bool told = false;
+    if (settings.status() != QSettings::NoError && !told) {
+        told = true;
+        std::fprintf(stderr,
+                     "tavok: cannot write the score record %s; this run's games are not kept\n",
+                     qPrintable(recordFile(settings)));
+    }
 }
 
 void Marlet::ScoreOptionA(bool New_ScoreOptionA)
@@ -140,7 +187,7 @@ void Marlet::ScoreOptionB(bool New_ScoreOptionB)
 
 void Marlet::ScoreWin(bool New_ScoreWin)
 {
-    ++(New_ScoreWin ? m_wins : m_losses);
+    countOne(New_ScoreWin ? m_wins : m_losses);
     saveRecord();
     // A game can end under an open board; then the new count shows at once.
     if (isVisible())
@@ -151,7 +198,7 @@ void Marlet::ScoreDraw(bool New_ScoreDraw)
 {
     if (!New_ScoreDraw)
         return;
-    ++m_draws;
+    countOne(m_draws);
     saveRecord();
     if (isVisible())
         refresh();
@@ -183,7 +230,8 @@ void Marlet::refresh()
 
 QString Marlet::shareWon() const
 {
-    const int games = m_wins + m_losses + m_draws;
+    // Counted wide: three counts near their greatest would overflow an int.
+    const qint64 games = qint64(m_wins) + m_losses + m_draws;
     if (games == 0)
         return "-";
     return QString::number(qRound(100.0 * m_wins / games)) + "%";

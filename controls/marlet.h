@@ -9,8 +9,8 @@ class QToolButton;
 
 namespace Marlets {
 
-// The score board: games won, lost and drawn in this run of the program, in a small
-// panel that opens over the moves list and closes by its own "x".
+// The score board: games won, lost and drawn, in a small panel that opens over the
+// moves list and closes by its own "x". Each count stops at its greatest value.
 // ScoreOptionA shows the share of games won; ScoreOptionB shows the drawn games.
 class Marlet : public QFrame {
     Q_OBJECT

@@ -32,7 +32,12 @@ QFont buttonFont()
 
 } // namespace
 
-HelpForm::HelpForm(QWidget* parent) : QWidget(parent, Qt::Window)
+// A window of the dialog kind, never modal: given the game's window as parent, the
+// window manager keeps it above that window (a plain window would get no owner), and
+// the game goes on beside it. The frame keeps its buttons and stays sizable.
+HelpForm::HelpForm(QWidget* parent)
+    : QWidget(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint)
 {
     // Closing from the frame unloads the window; the next "Help" builds a new one.
     setAttribute(Qt::WA_DeleteOnClose);

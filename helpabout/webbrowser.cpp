@@ -4,8 +4,12 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
+#include <QPixmap>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextDocument>
 
 namespace {
 
@@ -122,14 +126,41 @@ void WebBrowser::load(const QUrl& page)
     // Pictures of the page lie beside it.
     m_view->document()->setBaseUrl(page);
     QFile file(page.toLocalFile());
-    // A page that is gone leaves the window empty; the reason goes to standard error,
-    // where a packager looks.
+    // A page that is gone is said in the window, where the player looks, and on
+    // standard error, where a packager looks.
     if (!file.open(QIODevice::ReadOnly)) {
-        m_view->clear();
-        qWarning().noquote() << "Help page not found:" << page.toLocalFile();
+        m_view->setHtml(QStringLiteral("<p><b>The help page cannot be read.</b></p><p>%1</p>")
+                            .arg(page.toLocalFile().toHtmlEscaped()));
+        qWarning().noquote() << "tavok: the help page cannot be read:" << page.toLocalFile();
         return;
     }
     m_view->setHtml(QString::fromUtf8(file.readAll()));
+    useLargePictures(page);
+}
+
+// On a screen at scale 2 a picture of the page with an @2x file beside it is shown
+// from that file, at the same size: the browser looks for such files only by paths
+// it can reach from the program's working folder, never beside the page.
+void WebBrowser::useLargePictures(const QUrl& page)
+{
+    if (m_view->devicePixelRatio() <= 1.0)
+        return;
+    QTextDocument* document = m_view->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
+            const QTextCharFormat format = fragment.fragment().charFormat();
+            if (!format.isImageFormat())
+                continue;
+            const QUrl address = page.resolved(QUrl(format.toImageFormat().name()));
+            const QFileInfo picture(address.toLocalFile());
+            QPixmap large(picture.path() + QLatin1Char('/') + picture.completeBaseName() +
+                          QStringLiteral("@2x.") + picture.suffix());
+            if (large.isNull())
+                continue;
+            large.setDevicePixelRatio(2.0);
+            document->addResource(QTextDocument::ImageResource, address, large);
+        }
+    }
 }
 
 void WebBrowser::place(const QString& fragment)

@@ -35,6 +35,7 @@ private:
     void visit(const QUrl& address);
     void showEntry(qsizetype entry);
     void load(const QUrl& page);
+    void useLargePictures(const QUrl& page);
     void place(const QString& fragment);
 
     QTextBrowser* m_view;

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Installs the Debian packages a build needs, and only those that are missing.
-#   install-deps.sh play   what building and playing the game needs
-#   install-deps.sh test   that, and what the tests, fuzzers, benchmarks and checks need
+#   install-deps.sh play      what building and playing the game needs
+#   install-deps.sh package   that, and what building the Debian package needs
+#   install-deps.sh test      all that, and what the tests, fuzzers, benchmarks and
+#                             checks (of the package too) need
 set -euo pipefail
 
 play=(
@@ -9,17 +11,21 @@ play=(
   qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins libgl-dev
   fonts-liberation2
 )
+package=(
+  build-essential dpkg-dev debhelper
+)
 test=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core fonts-liberation xvfb xauth
-  appstream desktop-file-utils dpkg-dev
+  appstream desktop-file-utils lintian reuse
   clang libclang-rt-14-dev
 )
 
 case "${1:-test}" in
   play) packages=("${play[@]}") ;;
-  test) packages=("${play[@]}" "${test[@]}") ;;
-  *) echo "usage: $0 play|test" >&2; exit 2 ;;
+  package) packages=("${play[@]}" "${package[@]}") ;;
+  test) packages=("${play[@]}" "${package[@]}" "${test[@]}") ;;
+  *) echo "usage: $0 play|package|test" >&2; exit 2 ;;
 esac
 
 missing=()

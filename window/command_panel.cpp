@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,15 +20,31 @@ void Form1::Scorex_MouseUp(int16_t, int16_t, float, float)
     Score1->zOrder(0);
 }
 
+// The page lies beside the program in the build folder; an installed game keeps it
+// in its data folder, found from the program's folder wherever the game was installed,
+// or where the build put it. Where it is nowhere, the help window names the place an
+// installed game would have it.
+static QString helpPagePath()
+{
+    const QString name = QStringLiteral("tavok.htm");
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString places[] = {
+        program.filePath(name),
+        program.filePath(QStringLiteral(TAVOK_DATA_FROM_PROGRAM "/") + name),
+        QDir(QStringLiteral(TAVOK_DATA_DIR)).filePath(name),
+    };
+    for (const QString& place : places)
+        if (QFileInfo::exists(place))
+            return QDir::cleanPath(place);
+    return QDir::cleanPath(places[1]);
+}
+
 void Form1::Helpx_Click()
 {
-    QString path = QCoreApplication::applicationDirPath();
-    if (!path.endsWith(QLatin1Char('/')))
-        path += QLatin1Char('/');
-    path += QStringLiteral("tavok.htm");
+    // A window of its own that stays above the game's, which goes on beside it.
     if (!m_helpForm)
-        m_helpForm = new HelpForm();
-    m_helpForm->Tag(path);
+        m_helpForm = new HelpForm(this);
+    m_helpForm->Tag(helpPagePath());
     m_helpForm->show();
     m_helpForm->raise();
     m_helpForm->activateWindow();

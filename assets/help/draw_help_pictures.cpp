@@ -1,4 +1,5 @@
-// Draws the pictures of the help page into a folder: draw_help_pictures <folder>
+// Draws the pictures of the help page into a folder, at 1x and at twice the size for
+// screens at scale 2 (ring.png, ring@2x.png): draw_help_pictures <folder>
 // The pictures are committed; the build never runs this. Run it again after a change
 // here and look at the result before committing.
 
@@ -84,12 +85,13 @@ void sowingPath(QPainter& painter)
     arrowHead(painter, QPointF(left, Between), pi / 2);
 }
 
-QImage ring()
+QImage ring(int scale)
 {
-    QImage image(Width, Height, QImage::Format_ARGB32_Premultiplied);
+    QImage image(Width * scale, Height * scale, QImage::Format_ARGB32_Premultiplied);
     image.fill(Face);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
     sowingPath(painter);
 
     QFont counts(QStringLiteral("Arial"));
@@ -137,7 +139,9 @@ int main(int argc, char* argv[])
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
-    if (!ring().save(folder.filePath(QStringLiteral("ring.png")))) {
+    const bool written = ring(1).save(folder.filePath(QStringLiteral("ring.png"))) &&
+                         ring(2).save(folder.filePath(QStringLiteral("ring@2x.png")));
+    if (!written) {
         std::fprintf(stderr, "draw_help_pictures: cannot write into %s\n", argv[1]);
         return 1;
     }

@@ -34,8 +34,8 @@ TEST(Pictures, EachIsLinkedInAtOneAndTwoTimesWithAClearSurround)
         {Pictures::Board, 32},           {Pictures::Hand, 32},
         {Pictures::Hand16, 16},          {Pictures::DiscGreenRaised, 32},
         {Pictures::DiscGreenSunken, 32}, {Pictures::DiscRedRaised, 32},
-        {Pictures::DiscRedSunken, 32},   {Pictures::ArrowRed, 32},
-        {Pictures::ArrowGreen, 32},
+        {Pictures::DiscRedSunken, 32},   {Pictures::ArrowRed, 40},
+        {Pictures::ArrowGreen, 40},
     };
     for (const auto& [path, side] : all) {
         for (int scale : {1, 2}) {

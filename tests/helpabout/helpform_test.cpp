@@ -131,18 +131,19 @@ TEST_F(HelpWindow, ExitHidesAndKeepsTheWindowClosingEvenAHiddenOneDestroysIt)
     EXPECT_TRUE(help.isNull());
 }
 
-// A game installed without its page still opens the help window, empty, and every
-// button keeps working on it.
-TEST_F(HelpWindow, AMissingPageGivesAnEmptyWindowThatStillAnswers)
+// A game installed without its page still opens the help window, which says where the
+// page was looked for, and every button keeps working on it.
+TEST_F(HelpWindow, AMissingPageIsSaidInTheWindowThatStillAnswers)
 {
     help->hide();
-    help->Tag(page.path() + QStringLiteral(".gone"));
+    const QString missing = page.path() + QStringLiteral(".gone");
+    help->Tag(missing);
     help->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(help));
-    EXPECT_TRUE(view->toPlainText().isEmpty());
+    EXPECT_TRUE(view->toPlainText().contains(missing));
     for (QPushButton* button : help->findChildren<QPushButton*>())
         QTest::mouseClick(button, Qt::LeftButton);
     runDeferredDeletes();
     ASSERT_FALSE(help.isNull());
-    EXPECT_TRUE(view->toPlainText().isEmpty());
+    EXPECT_TRUE(view->toPlainText().contains(missing));
 }

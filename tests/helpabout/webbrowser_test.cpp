@@ -109,14 +109,15 @@ TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
     EXPECT_EQ(picture.value<QImage>().size(), QSize(12, 12));
 }
 
-TEST_F(Browser, AMissingPageLeavesTheWindowEmptyAndKeepsItsAddress)
+TEST_F(Browser, AMissingPageIsSaidInsteadOfTheOldOneAndKeepsItsAddress)
 {
     browser.Navigate(page.path());
     ASSERT_FALSE(view->toPlainText().isEmpty());
     const QString missing = page.path() + QStringLiteral(".gone");
     browser.Navigate(missing);
     EXPECT_EQ(browser.LocationURL(), QUrl::fromLocalFile(missing).toString());
-    EXPECT_TRUE(view->toPlainText().isEmpty());
+    EXPECT_TRUE(view->toPlainText().startsWith(QStringLiteral("The help page cannot be read.")));
+    EXPECT_TRUE(view->toPlainText().contains(missing));
 }
 
 TEST_F(Browser, PlaceAndSizeAreInTwips)
