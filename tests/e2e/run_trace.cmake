@@ -1,4 +1,4 @@
-# Plays one script through tavok-trace and compares the whole output with its golden
+# Plays one script through a trace tool and compares the whole output with its golden
 # trace. On a difference the actual trace is left beside the build for inspection.
 execute_process(
     COMMAND ${TRACE}
@@ -7,7 +7,7 @@ execute_process(
     ERROR_VARIABLE errors
     RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
-    message(FATAL_ERROR "tavok-trace failed (${status}):\n${errors}")
+    message(FATAL_ERROR "${TRACE} failed (${status}):\n${errors}")
 endif()
 file(READ ${EXPECTED} expected)
 if(NOT actual STREQUAL expected)
