@@ -1,15 +1,26 @@
-#include "list_probe.h"
-
 #include "moveslist/lbblock.h"
 #include "moveslist/listerror.h"
 #include "moveslist/moveslistblock.h"
-#include "moveslist/olecolor.h"
+#include "moveslist/usercontrol1.h"
 
 #include <gtest/gtest.h>
 
 #include <QtEndian>
 
+#include <functional>
+
 namespace {
+
+// The code of the ListError a call ends in, or 0 when it ends normally.
+int errorCode(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const ListError& error) {
+        return error.code();
+    }
+    return 0;
+}
 
 // The log's block as the form stores it, byte for byte: the header, then
 // "_extentx" 10028, "_extenty" 503, "fontname" "MS Sans Serif", "fontsize" 8.25.
@@ -35,19 +46,6 @@ template <typename T> QByteArray with(QByteArray block, int at, T value)
 int readError(const QByteArray& block)
 {
     return errorCode([&] { lbblock::read(block); });
-}
-
-std::unique_ptr<UserControl1> listFrom(const PropertyBag& bag)
-{
-    return std::unique_ptr<UserControl1>(UserControl1::fromBlock(lbblock::write(bag)));
-}
-
-QStringList keys(const PropertyBag& bag)
-{
-    QStringList keys;
-    for (const PropertyEntry& entry : bag.entries())
-        keys << entry.key;
-    return keys;
 }
 
 TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
@@ -149,83 +147,6 @@ TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
     };
     for (size_t i = 0; i < std::size(damaged); ++i)
         EXPECT_EQ(readError(damaged[i]), ListErrorCode::InvalidFileFormat) << "damage " << i;
-}
-
-// Every stored property away from its default, through its setter.
-void setNonDefaults(UserControl1& list)
-{
-    list.Enabled(true);
-    list.PictureList(std::make_shared<ImageList>());
-    QImage picture(3, 2, QImage::Format_RGB32);
-    picture.fill(qRgb(10, 20, 30));
-    list.PictureList()->add(picture);
-    list.forecolor(0x00010203);
-    list.GridLines(true);
-    list.BorderStyle(0);
-    list.DropDownHeight(2000);
-    list.Mode(2);
-    list.RowHeight(300);
-    list.DrawStyle(2);
-    list.BackColor(0x00405060);
-    list.GridColor(0x00FFFFFF);
-    list.ToolTip(true);
-}
-
-QList<AnyValue> readings(const UserControl1& list)
-{
-    return {int(list.Enabled()),   list.forecolor(), int(list.GridLines()), list.BorderStyle(),
-            list.DropDownHeight(), list.Mode(),      list.RowHeight(),      list.DrawStyle(),
-            list.BackColor(),      list.GridColor(), int(list.ToolTip())};
-}
-
-TEST(StoredProperties, WhatIsWrittenLoadsBackAndDefaultsAreLeftOut)
-{
-    auto list = loadedList();
-    EXPECT_EQ(readings(*list), QList<AnyValue>({0, olecolor::WindowText, 0, 1, 0, 0, 0, 0,
-                                                olecolor::ButtonFace, 0, 0}));
-    PropertyBag defaults;
-    list->UserControl_WriteProperties(defaults);
-    // The font is written though nothing reads it back.
-    EXPECT_EQ(keys(defaults), QStringList({"fontname", "fontsize"}));
-
-    setNonDefaults(*list);
-    PropertyBag bag;
-    list->UserControl_WriteProperties(bag);
-    EXPECT_EQ(keys(bag),
-              QStringList({"enabled", "picturelist", "fontname", "fontsize", "forecolor",
-                           "gridlines", "borderstyle", "dropdownheight", "mode", "rowheight",
-                           "drawstyle", "backcolor", "gridcolor", "tooltip"}));
-    EXPECT_EQ(bag.readProperty("GridLines", 0), AnyValue(-1));
-    auto loaded = listFrom(bag);
-    EXPECT_EQ(readings(*loaded), readings(*list));
-    ASSERT_NE(loaded->PictureList(), nullptr);
-    EXPECT_EQ(loaded->PictureList()->ListImages(1).Picture.convertToFormat(QImage::Format_RGB32),
-              list->PictureList()->ListImages(1).Picture);
-    EXPECT_EQ(loaded->state().GridLinesOn, 1);
-}
-
-TEST(StoredProperties, SavedSettingsWaitUntilAssigned)
-{
-    PropertyBag bag;
-    bag.writeProperty("Mode", PropertyType::Integer, 1, 0);
-    bag.writeProperty("DropDownHeight", PropertyType::Integer, 2000, 0);
-    bag.writeProperty("RowHeight", PropertyType::Integer, 400, 0);
-    bag.writeProperty("BackColor", PropertyType::Long, 0x00FF0000, olecolor::ButtonFace);
-    bag.writeProperty("ListCount", PropertyType::Empty, AnyValue(), 0);
-    auto list = listFrom(bag);
-    EXPECT_EQ(std::make_tuple(list->Mode(), list->DropDownHeight(), list->RowHeight()),
-              std::make_tuple(int16_t(1), int16_t(2000), AnyValue(400)));
-    const ListState& st = list->state();
-    EXPECT_EQ(std::make_tuple(st.ComboMode, st.ViewHeight, st.RowTwips),
-              std::make_tuple(int16_t(0), int16_t(0), int32_t(0)));
-    EXPECT_TRUE(ListProbe(*list).canvasHidden() && ListProbe(*list).scrollBarHidden());
-    // A saved back colour is the surface's only.
-    EXPECT_EQ(list->BackColor(), 0x00FF0000);
-    EXPECT_EQ(list->canvas().pixel(0, 0), olecolor::toQColor(olecolor::WindowBackground).rgb());
-    // An empty store travels as empty, not 0.
-    PropertyBag written;
-    list->UserControl_WriteProperties(written);
-    EXPECT_TRUE(written.find("ListCount")->value.isEmpty());
 }
 
 } // namespace

@@ -44,7 +44,9 @@ QStringList tokens(const QString& line)
         for (++i; i < n && line[i] != QLatin1Char('"'); ++i) {
             if (line[i] == QLatin1Char('\\') && i + 1 < n) {
                 const QChar c = line[++i];
-                text += c == QLatin1Char('t') ? QChar('\t') : c == QLatin1Char('n') ? QChar('\n') : c;
+                text += c == QLatin1Char('t')   ? QChar('\t')
+                        : c == QLatin1Char('n') ? QChar('\n')
+                                                : c;
             } else {
                 text += line[i];
             }
@@ -113,8 +115,10 @@ QString shown(const AnyValue& value)
 
 QString hex(int32_t colour)
 {
-    return QStringLiteral("0x%1").arg(uint32_t(colour), 8, 16, QLatin1Char('0')).toUpper().replace(
-        QLatin1String("0X"), QLatin1String("0x"));
+    return QStringLiteral("0x%1")
+        .arg(uint32_t(colour), 8, 16, QLatin1Char('0'))
+        .toUpper()
+        .replace(QLatin1String("0X"), QLatin1String("0x"));
 }
 
 QString colourName(QRgb pixel)
@@ -130,13 +134,20 @@ QString sizeOf(const QWidget* w)
 const char* PropertyTypeName(PropertyType type)
 {
     switch (type) {
-    case PropertyType::Empty: return "empty";
-    case PropertyType::Integer: return "integer";
-    case PropertyType::Long: return "long";
-    case PropertyType::Single: return "single";
-    case PropertyType::Double: return "double";
-    case PropertyType::Text: return "text";
-    case PropertyType::Object: return "object";
+    case PropertyType::Empty:
+        return "empty";
+    case PropertyType::Integer:
+        return "integer";
+    case PropertyType::Long:
+        return "long";
+    case PropertyType::Single:
+        return "single";
+    case PropertyType::Double:
+        return "double";
+    case PropertyType::Text:
+        return "text";
+    case PropertyType::Object:
+        return "object";
     }
     return "?";
 }
@@ -157,12 +168,14 @@ struct KeyName {
 };
 
 constexpr KeyName Keys[] = {
-    {"Down", Qt::Key_Down},       {"Up", Qt::Key_Up},         {"Home", Qt::Key_Home},
-    {"End", Qt::Key_End},         {"PageUp", Qt::Key_PageUp}, {"PageDown", Qt::Key_PageDown},
-    {"Return", Qt::Key_Return},   {"Enter", Qt::Key_Enter},   {"Escape", Qt::Key_Escape},
-    {"Left", Qt::Key_Left},       {"Right", Qt::Key_Right},   {"Tab", Qt::Key_Tab},
-    {"Space", Qt::Key_Space},     {"Shift", Qt::Key_Shift},   {"F1", Qt::Key_F1},
-    {"Backspace", Qt::Key_Backspace},
+    {"Down", Qt::Key_Down},     {"Up", Qt::Key_Up},
+    {"Home", Qt::Key_Home},     {"End", Qt::Key_End},
+    {"PageUp", Qt::Key_PageUp}, {"PageDown", Qt::Key_PageDown},
+    {"Return", Qt::Key_Return}, {"Enter", Qt::Key_Enter},
+    {"Escape", Qt::Key_Escape}, {"Left", Qt::Key_Left},
+    {"Right", Qt::Key_Right},   {"Tab", Qt::Key_Tab},
+    {"Space", Qt::Key_Space},   {"Shift", Qt::Key_Shift},
+    {"F1", Qt::Key_F1},         {"Backspace", Qt::Key_Backspace},
 };
 
 Qt::KeyboardModifiers modifiers(const QStringList& words)
@@ -214,8 +227,8 @@ bool ListTrace::perform(const QString& line)
     m_out << "> " << line.trimmed().toStdString() << '\n';
     bool known = false;
     try {
-        known = setUp(verb, args) || (m_list && (call(verb, args) || input(verb, args) ||
-                                                 inspect(verb, args)));
+        known = setUp(verb, args) ||
+                (m_list && (call(verb, args) || input(verb, args) || inspect(verb, args)));
     } catch (const ListError& error) {
         known = true;
         say(QStringLiteral("error %1").arg(error.code()));
@@ -320,11 +333,18 @@ void ListTrace::listenTo(UserControl1& list)
 {
     const auto mouse = [this](const char* name) {
         return [this, name](int16_t& b, int16_t& s, float& x, float& y) {
-            say(QStringLiteral("%1 %2 %3 %4 %5")
-                    .arg(QLatin1String(name))
-                    .arg(b)
-                    .arg(s)
-                    .arg(number(x), number(y)));
+            QString heard = QStringLiteral("%1 %2 %3 %4 %5")
+                                .arg(QLatin1String(name))
+                                .arg(b)
+                                .arg(s)
+                                .arg(number(x), number(y));
+            // What the host reads of a pick while it hears of it.
+            if (QLatin1String(name) == QLatin1String("MouseUp"))
+                heard += QStringLiteral(" reads %1 %2")
+                             .arg(shown(m_list->text()), ListProbe(*m_list).canvas()->isHidden()
+                                                             ? QStringLiteral("closed")
+                                                             : QStringLiteral("open"));
+            say(heard);
             b = s = 99;
         };
     };
@@ -630,12 +650,33 @@ bool ListTrace::inspect(const QString& verb, const QStringList& args)
         for (size_t i = 0; i < byUse.size() && i < 3; ++i)
             names << colourName(byUse[i].second);
         say(QStringLiteral("colours ") + names.join(QLatin1Char(' ')));
+    } else if (verb == QLatin1String("pictures")) {
+        // Each picture of the list's image list: its size and its colours.
+        const auto images = m_list->PictureList();
+        for (int i = 1; images && i <= images->count(); ++i) {
+            const QImage picture = images->ListImages(i).Picture;
+            std::map<QRgb, int> colours;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x)
+                    ++colours[picture.pixel(x, y) & 0xFFFFFF];
+            QStringList names;
+            for (const auto& [colour, uses] : colours)
+                names << QStringLiteral("%1x%2").arg(colourName(colour)).arg(uses);
+            say(QStringLiteral("picture %1 %2x%3 %4")
+                    .arg(i)
+                    .arg(picture.width())
+                    .arg(picture.height())
+                    .arg(names.join(QLatin1Char(' '))));
+        }
     } else if (verb == QLatin1String("snap")) {
         m_snaps[args.value(0)] = canvas.copy();
     } else if (verb == QLatin1String("compare")) {
         // Pixel rows as runs: the same as the snapshot, every pixel inverted, or other.
         const QImage& was = m_snaps[args.value(0)];
-        if (was.size() != canvas.size()) {
+        // "within": only the snapshot's own rectangle of a canvas that has grown.
+        const bool within = args.value(1) == QLatin1String("within") &&
+                            was.width() <= canvas.width() && was.height() <= canvas.height();
+        if (!within && was.size() != canvas.size()) {
             say(QStringLiteral("size %1x%2 was %3x%4")
                     .arg(canvas.width())
                     .arg(canvas.height())
@@ -646,17 +687,18 @@ bool ListTrace::inspect(const QString& verb, const QStringList& args)
         QStringList runs;
         QString kind;
         int start = 0;
-        for (int y = 0; y <= canvas.height(); ++y) {
+        for (int y = 0; y <= was.height(); ++y) {
             QString k;
-            if (y < canvas.height()) {
+            if (y < was.height()) {
                 bool same = true, inverted = true;
-                for (int x = 0; x < canvas.width(); ++x) {
+                for (int x = 0; x < was.width(); ++x) {
                     const QRgb a = was.pixel(x, y) & 0xFFFFFF, b = canvas.pixel(x, y) & 0xFFFFFF;
                     same = same && a == b;
                     inverted = inverted && b == (~a & 0xFFFFFF);
                 }
-                k = same ? QStringLiteral("same") : inverted ? QStringLiteral("inverted")
-                                                            : QStringLiteral("changed");
+                k = same       ? QStringLiteral("same")
+                    : inverted ? QStringLiteral("inverted")
+                               : QStringLiteral("changed");
             }
             if (k != kind) {
                 if (!kind.isEmpty())
@@ -679,9 +721,9 @@ bool ListTrace::inspect(const QString& verb, const QStringList& args)
                 .arg(g.height()));
     } else if (verb == QLatin1String("at")) {
         // Which widget of the host stands at a point of the host.
-        QWidget* w = m_host ? m_host->childAt(int(numberOf(args.value(0))),
-                                              int(numberOf(args.value(1))))
-                            : nullptr;
+        QWidget* w =
+            m_host ? m_host->childAt(int(numberOf(args.value(0))), int(numberOf(args.value(1))))
+                   : nullptr;
         QString name = QStringLiteral("nothing");
         for (const char* n : {"canvas", "head", "button", "bar", "below", "elsewhere"})
             if (w && w == widget(QLatin1String(n)))
@@ -692,9 +734,9 @@ bool ListTrace::inspect(const QString& verb, const QStringList& args)
     } else if (verb == QLatin1String("DrawRows")) {
         // "view" stands for the number of rows in view.
         const QString last = args.value(1);
-        probe.DrawRows(int16_t(numberOf(args.value(0))),
-                       last == QLatin1String("view") ? m_list->state().RowsInView
-                                                     : int16_t(numberOf(last)));
+        probe.DrawRows(int16_t(numberOf(args.value(0))), last == QLatin1String("view")
+                                                             ? m_list->state().RowsInView
+                                                             : int16_t(numberOf(last)));
     } else if (verb == QLatin1String("DrawOneRow")) {
         probe.DrawOneRow(int16_t(numberOf(args.value(0))));
     } else if (verb == QLatin1String("InvertRowStrip")) {
@@ -764,11 +806,17 @@ QStringList ListTrace::stateLines() const
                  .arg(probe.bar()->value())
                  .arg(probe.bar()->maximum())
                  .arg(probe.bar()->isHidden() ? QStringLiteral(" hidden") : QString());
-    lines << QStringLiteral("rows height %1 text %2 inview %3 view %4")
+    lines << QStringLiteral("rows height %1 text %2 inview %3 view %4 pixel %5,%6")
                  .arg(st.RowTwips)
                  .arg(st.TextTwips)
                  .arg(st.RowsInView)
-                 .arg(st.ViewHeight);
+                 .arg(st.ViewHeight)
+                 .arg(st.PixelTwipsX)
+                 .arg(st.PixelTwipsY);
+    // What the property stores keep, which no member reads back.
+    lines << QStringLiteral("stores count %1 index %2 text %3 list %4")
+                 .arg(shown(st.ListCountStore), shown(st.ListIndexStore), shown(st.TextStore),
+                      shown(st.ListStore));
     lines << QStringLiteral("pick last %1 chosen %2 head %3")
                  .arg(quoted(probe.LastAddedIndex()), quoted(probe.ChosenIndex()),
                       quoted(probe.head()->text()));
