@@ -2,7 +2,10 @@
 #include "moveslist/usercontrol1.h"
 #include "window/form1.h"
 
+#include "common/twips.h"
+
 #include <QAccessible>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QTest>
@@ -53,6 +56,63 @@ protected:
 };
 
 } // namespace
+
+// The window's own table of controls, in a data file: where each stands, its font,
+// its colours, whether it shows at the start, its tooltip.
+TEST_F(Look, EveryControlStandsAndLooksAsItsTableSays)
+{
+    QFile table(QStringLiteral(TAVOK_CONTROLS_TABLE));
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly | QIODevice::Text));
+    const QPalette desktop = form.palette();
+    const auto colour = [&](const QString& name) {
+        if (name == QLatin1String("window-text"))
+            return desktop.color(QPalette::WindowText);
+        if (name == QLatin1String("button-face"))
+            return desktop.color(QPalette::Button);
+        return QColor(name);
+    };
+    int rows = 0;
+    while (!table.atEnd()) {
+        const QString line = QString::fromUtf8(table.readLine()).chopped(1);
+        if (line.startsWith(QLatin1Char('#')) || line.isEmpty())
+            continue;
+        const QStringList c = line.split(QLatin1Char('\t'));
+        ASSERT_EQ(c.size(), 12) << line.toStdString();
+        SCOPED_TRACE(c[0].toStdString());
+        ++rows;
+        auto* w = form.findChild<QWidget*>(c[0]);
+        ASSERT_NE(w, nullptr);
+        const auto twips = [&](int i, int pixels) {
+            if (c[i] != QLatin1String("-")) {
+                EXPECT_EQ(pixels, Twips::toPixels(c[i].toFloat())) << c[i].toStdString();
+            }
+        };
+        twips(1, w->x());
+        twips(2, w->y());
+        twips(3, w->width());
+        twips(4, w->height());
+        if (c[5] != QLatin1String("-")) {
+            EXPECT_EQ(w->font().family(), c[5]);
+            EXPECT_DOUBLE_EQ(w->font().pointSizeF(), c[6].toDouble());
+            EXPECT_EQ(w->font().bold(), c[7] == QLatin1String("1"));
+        }
+        auto* face = qobject_cast<Quillet*>(w);
+        if (c[8] != QLatin1String("-")) {
+            EXPECT_EQ(face ? face->forecolor() : w->palette().color(QPalette::WindowText),
+                      colour(c[8]));
+        }
+        if (c[9] != QLatin1String("-")) {
+            EXPECT_EQ(face ? face->backcolor() : w->palette().color(QPalette::Window),
+                      colour(c[9]));
+            EXPECT_TRUE(face || w->autoFillBackground());
+        }
+        EXPECT_EQ(w->isVisible(), c[10] == QLatin1String("1"));
+        if (c[11] != QLatin1String("-")) {
+            EXPECT_EQ(w->toolTip(), c[11]);
+        }
+    }
+    EXPECT_EQ(rows, 45);
+}
 
 // Captions change all through a game: the messages, the totals, the result.
 TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
