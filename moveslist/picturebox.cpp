@@ -98,38 +98,17 @@ double PictureBox::TextHeight(const QString& text) const
 // The modes are applied pixel by pixel: a painter would hand a raster-op line to its
 // thread pool, which costs more than the whole row. No pixel is touched twice, so an
 // inverting mode never takes its own mark off again.
-void PictureBox::Line(QPointF from, QPointF to, int32_t colour)
+void PictureBox::Line(double y, double fromX, double toX, int32_t colour)
 {
     syncImage();
-    const QRgb pen = olecolor::toQColor(colour).rgb();
-    QPoint at(pixelX(from.x()), pixelY(from.y()));
-    const QPoint end(pixelX(to.x()), pixelY(to.y()));
-    const int dx = std::abs(end.x() - at.x());
-    const int dy = -std::abs(end.y() - at.y());
-    const int stepX = at.x() < end.x() ? 1 : -1;
-    const int stepY = at.y() < end.y() ? 1 : -1;
-    int error = dx + dy;
-    const QRect area = QRect(at, end).normalized();
-    if (at == end)
+    const int row = pixelY(y);
+    const int left = pixelX(fromX), right = pixelX(toX);
+    if (left == right)
         return;
-    if (at.y() == end.y()) {
-        horizontalLine(at.y(), std::min(at.x(), end.x() + 1), std::max(at.x(), end.x() - 1), pen);
-        drawn(area);
-        return;
-    }
-    while (at != end) {
-        plot(at, pen);
-        const int twice = 2 * error;
-        if (twice >= dy) {
-            error += dy;
-            at.rx() += stepX;
-        }
-        if (twice <= dx) {
-            error += dx;
-            at.ry() += stepY;
-        }
-    }
-    drawn(area);
+    // The end point is left out.
+    const int first = std::min(left, right + 1), last = std::max(left, right - 1);
+    horizontalLine(row, first, last, olecolor::toQColor(colour).rgb());
+    drawn(QRect(QPoint(first, row), QPoint(last, row)));
 }
 
 void PictureBox::filledBox(QPointF from, QPointF to, int32_t colour)
@@ -162,11 +141,6 @@ void PictureBox::horizontalLine(int y, int left, int right, QRgb pen)
         for (int x = device(left); x <= lastColumn; ++x)
             line[x] = underMode(m_drawMode, pen, line[x]);
     }
-}
-
-void PictureBox::plot(QPoint at, QRgb pen)
-{
-    horizontalLine(at.y(), at.x(), at.x(), pen);
 }
 
 QRect PictureBox::logicalRect() const

@@ -52,8 +52,9 @@ public:
     void Print(const QString& text);
     double TextWidth(const QString& text) const;
     double TextHeight(const QString& text) const;
-    // A line from one point to the other, end point left out, under DrawMode.
-    void Line(QPointF from, QPointF to, int32_t colour);
+    // A level line at height y from one x to the other, end point left out, under
+    // DrawMode: the only kind of line the list draws.
+    void Line(double y, double fromX, double toX, int32_t colour);
     // A filled box from one corner to the other, under DrawMode.
     void filledBox(QPointF from, QPointF to, int32_t colour);
     // Paints a part of a picture under a raster code. A null picture or a source
@@ -79,7 +80,6 @@ protected:
 private:
     // Brings the kept image to the widget's size, keeping what is drawn.
     void syncImage() const;
-    void plot(QPoint at, QRgb pen);
     // The canvas in widget pixels.
     QRect logicalRect() const;
     void horizontalLine(int y, int left, int right, QRgb pen);

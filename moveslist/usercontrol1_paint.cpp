@@ -124,7 +124,7 @@ void UserControl1::drawGridLine(int32_t rowInView)
 {
     Picture1->DrawMode(PictureBox::MergeNotPen);
     const double ly = (rowInView + 1.0) * m_state.RowTwips - 2 * screenTwipsY();
-    Picture1->Line(QPointF(0, ly), QPointF(childWidth(Picture1), ly), m_state.GridColorValue);
+    Picture1->Line(ly, 0, childWidth(Picture1), m_state.GridColorValue);
     Picture1->DrawMode(PictureBox::Invert);
 }
 
