@@ -668,6 +668,15 @@ bool ListTrace::inspect(const QString& verb, const QStringList& args)
                     .arg(picture.height())
                     .arg(names.join(QLatin1Char(' '))));
         }
+    } else if (verb == QLatin1String("arrow")) {
+        // The drop button's picture, a character a pixel: # ink, . clear.
+        const QImage picture = probe.button()->pixmap().toImage();
+        for (int y = 0; y < picture.height(); ++y) {
+            QString row;
+            for (int x = 0; x < picture.width(); ++x)
+                row += qAlpha(picture.pixel(x, y)) > 127 ? QLatin1Char('#') : QLatin1Char('.');
+            say(row);
+        }
     } else if (verb == QLatin1String("snap")) {
         m_snaps[args.value(0)] = canvas.copy();
     } else if (verb == QLatin1String("compare")) {
