@@ -67,6 +67,9 @@ TEST(QuilletFace, EdgesStandRaisedAndSinkWhileHeld)
         EXPECT_EQ(image.pixelColor(w / 2, h - ratio), BottomEdge);
         EXPECT_EQ(image.pixelColor(w / 2, ratio), Face);
         EXPECT_EQ(image.pixelColor(w - 1 - ratio, h - 1 - ratio), Face);
+        // The shadow edges own the two far corners, as on a raised key.
+        EXPECT_EQ(image.pixelColor(w - 1, 0), RightEdge);
+        EXPECT_EQ(image.pixelColor(0, h - 1), BottomEdge);
     }
     surface.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&surface));
@@ -98,12 +101,27 @@ TEST(QuilletFace, CaptionShowsAtOnceAndGreysOnlyOnAPlainButton)
     bank.caption("");
     EXPECT_EQ(rendered(bank), bare);
 
+    // Without smoothing every pixel of the text is the caption's colour: off, it is
+    // halfway between the text and the face.
     Quillet button;
     button.resize(120, 23);
+    QFont plain = button.font();
+    plain.setStyleStrategy(QFont::NoAntialias);
+    button.setFont(plain);
+    button.forecolor(QColor(0, 0, 0));
+    button.backcolor(QColor(200, 100, 50));
     button.caption("Undo last move");
-    const QImage on = rendered(button);
+    const auto countOf = [](const QImage& image, const QColor& colour) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixelColor(x, y) == colour;
+        return count;
+    };
+    const int inked = countOf(rendered(button), Qt::black);
+    ASSERT_GT(inked, 20);
     button.enabled(false);
-    EXPECT_NE(rendered(button), on);
+    EXPECT_EQ(countOf(rendered(button), QColor(100, 50, 25)), inked);
 }
 
 // A picture read from one face can be set on another. The hand, 32 pixels on a face 25
@@ -117,11 +135,30 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
     EXPECT_EQ(hand.picture().cacheKey(), pot.picture().cacheKey());
     EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
 
+    // A picture with no clear part at all fills the face it is too large for.
     pot.place(0, 0, 555, 555);
-    pot.picture(framedInClear(64, 0));
+    QPixmap solid(64, 64);
+    solid.fill(Qt::blue);
+    ASSERT_FALSE(solid.hasAlphaChannel());
+    pot.picture(solid);
     const int across = blueAcrossTheMiddle(rendered(pot));
     EXPECT_GE(across, pot.width() - 2);
     EXPECT_LE(across, pot.width());
+    // Visible only in its first column, it still shrinks to bring that column in, to
+    // the face's left end (the clear edge lets it show).
+    pot.borderleft(Qt::transparent);
+    QImage edge(64, 64, QImage::Format_ARGB32);
+    edge.fill(Qt::transparent);
+    for (int y = 0; y < 64; ++y)
+        edge.setPixelColor(0, y, Qt::blue);
+    pot.picture(QPixmap::fromImage(edge));
+    const QImage face = rendered(pot);
+    int bluish = 0;
+    for (int x = 0; x < face.width(); ++x) {
+        const QColor c = face.pixelColor(x, face.height() / 2);
+        bluish += c.blue() > c.red() + 40;
+    }
+    EXPECT_GT(bluish, 0);
 }
 
 // The hand goes where a letter stands, in twips that need not fall on a pixel; moved by
