@@ -13,6 +13,10 @@ TestPage::TestPage()
     dot.fill(Qt::green);
     QDir(m_folder.path()).mkpath(QStringLiteral("help"));
     dot.save(m_folder.filePath(QStringLiteral("help/dot.png")));
+    // Its drawing for screens of ratio 2, in another colour to tell them apart.
+    QImage large(24, 24, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    large.save(m_folder.filePath(QStringLiteral("help/dot@2x.png")));
 }
 
 QString TestPage::address() const

@@ -3,6 +3,7 @@
 #include "helpabout/webbrowser.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QImage>
 #include <QTest>
 #include <QTextBrowser>
@@ -104,9 +105,21 @@ TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
     page.rewrite(QStringLiteral("second version"));
     browser.Navigate(page.path());
     EXPECT_TRUE(pageShows(view, QStringLiteral("second version")));
-    const QVariant picture = view->document()->resource(QTextDocument::ImageResource,
-                                                        QUrl(QStringLiteral("help/dot.png")));
-    EXPECT_EQ(picture.value<QImage>().size(), QSize(12, 12));
+}
+
+// The picture beside the page, from its @2x file on a screen of ratio 2 (this case runs
+// again on one, see CMakeLists.txt), at the same size.
+TEST_F(Browser, PicturesComeFromBesideThePageAtTheScreensRatio)
+{
+    const QVariant resource = view->document()->resource(
+        QTextDocument::ImageResource, QUrl::fromLocalFile(QFileInfo(page.path()).path() +
+                                                          QStringLiteral("/help/dot.png")));
+    const QImage picture = resource.typeId() == QMetaType::QPixmap
+                               ? resource.value<QPixmap>().toImage()
+                               : resource.value<QImage>();
+    const qreal ratio = view->devicePixelRatio();
+    EXPECT_EQ(picture.size(), QSize(12, 12) * ratio);
+    EXPECT_EQ(picture.pixelColor(0, 0), ratio > 1 ? QColor(Qt::red) : QColor(Qt::green));
 }
 
 TEST_F(Browser, AMissingPageIsSaidInsteadOfTheOldOneAndKeepsItsAddress)
