@@ -114,6 +114,25 @@ TEST_F(Look, EveryControlStandsAndLooksAsItsTableSays)
     EXPECT_EQ(rows, 45);
 }
 
+// The strokes between the pot columns are three whole pixels of black, no grey beside.
+TEST_F(Look, TheStrokesBetweenThePotColumnsAreCrisp)
+{
+    const QImage window = form.grab().toImage();
+    const QColor ground = form.palette().color(QPalette::Window);
+    const int y = Twips::toPixels(1300);
+    for (int stroke : {2190, 3075, 3960, 4845, 5730}) {
+        const int x = Twips::toPixels(float(stroke));
+        int black = 0, other = 0;
+        for (int dx = -4; dx <= 4; ++dx) {
+            const QColor c = window.pixelColor(x + dx, y);
+            black += c == Qt::black;
+            other += c != Qt::black && c != ground;
+        }
+        EXPECT_EQ(black, 3) << stroke;
+        EXPECT_EQ(other, 0) << stroke;
+    }
+}
+
 // Captions change all through a game: the messages, the totals, the result.
 TEST_F(Look, EveryCaptionFitsThroughAWholeGame)
 {
