@@ -51,6 +51,14 @@ TEST(AboutWindow, NamesTheGameItsMakerAndItsVersion)
     EXPECT_EQ(lines.mid(0, 3).join(QString()), QString());
     EXPECT_EQ(lines[3], QStringLiteral("TAVOK by Dravo"));
     EXPECT_TRUE(lines[4].startsWith(QStringLiteral("email "))) << lines[4].toStdString();
+    // The version stands white on a black band.
+    QLabel* version = nullptr;
+    for (QLabel* label : about.findChildren<QLabel*>())
+        if (label->text() == QStringLiteral("Version 1.0"))
+            version = label;
+    ASSERT_NE(version, nullptr);
+    const QImage window = about.grab().toImage();
+    EXPECT_EQ(window.pixelColor(version->geometry().topLeft() + QPoint(1, 1)), QColor(Qt::black));
 }
 
 TEST(AboutWindow, ClosesFourWays)
