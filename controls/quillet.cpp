@@ -2,8 +2,11 @@
 
 #include "common/mouse_numbers.h"
 #include "common/twips.h"
+#include "controls/quilletaccessible.h"
 
+#include <QAccessible>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -70,6 +73,10 @@ Quillet::Quillet(QWidget* parent) : QWidget(parent)
     m_edges[EdgeLeft] = colours.color(QPalette::Light);
     m_edges[EdgeRight] = colours.color(QPalette::Dark);
     m_edges[EdgeBottom] = colours.color(QPalette::Dark);
+    // Only the window makes a face reachable by Tab.
+    setFocusPolicy(Qt::NoFocus);
+    static const bool readable = (QAccessible::installFactory(&QuilletAccessible::create), true);
+    Q_UNUSED(readable);
 }
 
 void Quillet::caption(const QString& New_caption)
@@ -77,6 +84,18 @@ void Quillet::caption(const QString& New_caption)
     if (New_caption == m_caption)
         return;
     m_caption = New_caption;
+    update();
+    // A face without a name of its own is read by its caption: a new caption is a new
+    // name, and the message bar is heard saying it.
+    if (accessibleName().isEmpty() && QAccessible::isActive()) {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&renamed);
+    }
+}
+
+void Quillet::setReadableWhenOff(bool readable)
+{
+    m_readableWhenOff = readable;
     update();
 }
 
@@ -183,7 +202,14 @@ void Quillet::paintEvent(QPaintEvent*)
         painter.setFont(font());
         painter.drawText(rect(), Qt::AlignCenter, m_caption);
     }
-    paintEdges(painter);
+    if (!(m_readableWhenOff && !isEnabled()))
+        paintEdges(painter);
+    if (hasFocus()) {
+        // The keyboard's ring, inside the edges, in the caption's own colour.
+        painter.setPen(QPen(m_forecolor, 1, Qt::DotLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(3, 3, -4, -4));
+    }
 }
 
 QRect Quillet::pictureRect() const
@@ -211,7 +237,7 @@ QColor Quillet::captionColour() const
 {
     // A plain button greys its text while it cannot be used; a face with a picture, a
     // pot or a bank, keeps its count readable whatever its state.
-    if (isEnabled() || !m_picture.isNull())
+    if (isEnabled() || !m_picture.isNull() || m_readableWhenOff)
         return m_forecolor;
     return halfway(m_forecolor, m_backcolor);
 }
@@ -282,6 +308,85 @@ void Quillet::mouseMoveEvent(QMouseEvent* event)
     const int16_t button = buttonNumber(event->buttons());
     const int16_t shift = shiftNumber(event->modifiers());
     deliver([&] { emit MouseMove(button, shift, twipsX(event), twipsY(event)); });
+}
+
+void Quillet::pressDown(int16_t shift)
+{
+    m_leftPressed = true;
+    m_pressedInside = true;
+    update();
+    const QPointF middle = QRectF(rect()).center();
+    deliver([&] {
+        emit MouseDown(1, shift, Twips::fromPixels(float(middle.x())),
+                       Twips::fromPixels(float(middle.y())));
+    });
+}
+
+void Quillet::pressUp(int16_t shift)
+{
+    forgetPress();
+    const QPointF middle = QRectF(rect()).center();
+    QPointer<Quillet> alive(this);
+    deliver([&] {
+        emit MouseUp(1, shift, Twips::fromPixels(float(middle.x())),
+                     Twips::fromPixels(float(middle.y())));
+    });
+    if (alive && isEnabled())
+        deliver([&] { emit Click(); });
+}
+
+void Quillet::press()
+{
+    if (!isEnabled())
+        return;
+    QPointer<Quillet> alive(this);
+    pressDown(0);
+    if (alive && isEnabled())
+        pressUp(0);
+}
+
+// Space presses the face and its release lets go, as the left button does: a held
+// hint shows while Space is held. Enter is left to the window, which plays the pot the
+// keys selected.
+void Quillet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat() && !m_spacePressed) {
+        m_spacePressed = true;
+        pressDown(shiftNumber(event->modifiers()));
+    }
+}
+
+void Quillet::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat() || !m_spacePressed)
+        return;
+    m_spacePressed = false;
+    if (isEnabled())
+        pressUp(shiftNumber(event->modifiers()));
+}
+
+// The focus gone with Space still down: the press is let go without a click, as a
+// release off the face would be.
+void Quillet::focusOutEvent(QFocusEvent* event)
+{
+    if (m_spacePressed) {
+        m_spacePressed = false;
+        forgetPress();
+        const QPointF middle = QRectF(rect()).center();
+        deliver([&] {
+            emit MouseUp(1, 0, Twips::fromPixels(float(middle.x())),
+                         Twips::fromPixels(float(middle.y())));
+        });
+    }
+    QWidget::focusOutEvent(event);
 }
 
 void Quillet::changeEvent(QEvent* event)

@@ -12,9 +12,17 @@
 // bar and the hint's hand. A rectangle with a picture, a caption over it and four
 // edges of their own colours. Lengths are twips; mouse events carry the game's button
 // numbers (1 left, 2 right, 4 middle) and shift numbers (1 shift, 2 ctrl, 4 alt).
+//
+// A face that takes the keyboard's focus shows a dotted ring and is pressed by Space,
+// as the left button would press it in its middle; a screen reader presses it the same
+// way through its Press action.
 class Quillet : public QWidget {
     Q_OBJECT
 public:
+    // What a screen reader makes of a face: a picture, a button it can press, a label,
+    // or a bar that is a button while it takes clicks and a status label while not.
+    enum class Access { Picture, Button, Label, Bar };
+
     explicit Quillet(QWidget* parent = nullptr);
 
     QString caption() const { return m_caption; }
@@ -43,6 +51,14 @@ public:
     void borderright(const QColor& New_borderright);
     void borderbottom(const QColor& New_borderbottom);
 
+    Access access() const { return m_access; }
+    void setAccess(Access kind) { m_access = kind; }
+    // Off, the caption keeps its colour and the face lies flat: a bar whose words must
+    // stay readable while it takes no clicks.
+    void setReadableWhenOff(bool readable);
+    // The left button pressed and released over the middle of the face, if it is on.
+    void press();
+
 signals:
     void MouseMove(int16_t Button, int16_t Shift, float X, float Y);
     void Click();
@@ -54,6 +70,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -62,6 +81,8 @@ private:
 
     void setEdge(Edge edge, const QColor& colour);
     void forgetPress();
+    void pressDown(int16_t shift);
+    void pressUp(int16_t shift);
     QRect pictureRect() const;
     void paintEdges(QPainter& painter) const;
     QColor captionColour() const;
@@ -82,4 +103,8 @@ private:
     // mouse is still over the face: together they make a click and the pressed look.
     bool m_leftPressed = false;
     bool m_pressedInside = false;
+    // Space is down on the focused face: its release presses the face.
+    bool m_spacePressed = false;
+    bool m_readableWhenOff = false;
+    Access m_access = Access::Picture;
 };

@@ -51,6 +51,39 @@ QAccessibleInterface* ListAccessible::childAt(int x, int y) const
     return item > 0 ? child(item - 1) : nullptr;
 }
 
+void ListAccessible::itemInserted(int32_t item)
+{
+    std::unordered_map<int32_t, QAccessible::Id> moved;
+    for (const auto& [row, id] : m_rows) {
+        const int32_t now = row >= item ? row + 1 : row;
+        static_cast<ListRowAccessible*>(QAccessible::accessibleInterface(id))->setItem(now);
+        moved.emplace(now, id);
+    }
+    m_rows = std::move(moved);
+}
+
+void ListAccessible::itemRemoved(int32_t item)
+{
+    std::unordered_map<int32_t, QAccessible::Id> moved;
+    for (const auto& [row, id] : m_rows) {
+        if (row == item) {
+            QAccessible::deleteAccessibleInterface(id);
+            continue;
+        }
+        const int32_t now = row > item ? row - 1 : row;
+        static_cast<ListRowAccessible*>(QAccessible::accessibleInterface(id))->setItem(now);
+        moved.emplace(now, id);
+    }
+    m_rows = std::move(moved);
+}
+
+void ListAccessible::itemsReset()
+{
+    for (const auto& [row, id] : m_rows)
+        QAccessible::deleteAccessibleInterface(id);
+    m_rows.clear();
+}
+
 QAccessibleInterface* ListAccessible::create(const QString& className, QObject* object)
 {
     if (className != QLatin1String("UserControl1"))

@@ -25,6 +25,15 @@ public:
     // For QAccessible::installFactory.
     static QAccessibleInterface* create(const QString& className, QObject* object);
 
+    // The store changed under a screen reader: a row it holds keeps following its
+    // item, so that a row heard of as new reads as that item, also after more came.
+    // An item was stored at `item`, those from there on moved down one.
+    void itemInserted(int32_t item);
+    // The item is gone, those below it moved up one.
+    void itemRemoved(int32_t item);
+    // Every item is another now: the list was cleared or sorted.
+    void itemsReset();
+
 private:
     UserControl1* list() const;
 

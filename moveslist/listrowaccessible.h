@@ -15,6 +15,8 @@ public:
     ListRowAccessible(UserControl1* list, int32_t item);
 
     int32_t item() const { return m_row; }
+    // Items above it came or went: the row follows its item to its new number.
+    void setItem(int32_t item) { m_row = item; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }

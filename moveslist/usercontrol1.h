@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 
+class ListAccessible;
 class PictureBox;
 class QLabel;
 class QLineEdit;
@@ -212,6 +213,11 @@ private:
     void additemAppend(QString& s, int16_t ipic, int32_t ItemColor);
     QString newRecord(const QString& s, int16_t ipic, int32_t ItemColor,
                       const QString& width) const;
+    // What a screen reader is told of the store's changes.
+    ListAccessible* readerView();
+    void announceItem(int32_t item);
+    void forgetItem(int32_t item);
+    void forgetItems();
     void setScrollMaximum(int32_t maximum);
     int32_t entryOf(const AnyValue& it) const;
     QString LastAddedIndex() const;

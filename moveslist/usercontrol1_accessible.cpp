@@ -1,4 +1,5 @@
 #include "moveslist/itemrecord.h"
+#include "moveslist/listaccessible.h"
 #include "moveslist/listnumbers.h"
 #include "moveslist/picturebox.h"
 #include "moveslist/usercontrol1.h"
@@ -43,9 +44,8 @@ QRect UserControl1::itemRect(int32_t item) const
 // goes first.
 UserControl1::~UserControl1()
 {
-    if (QAccessible::isActive())
-        QAccessible::deleteAccessibleInterface(
-            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(this)));
+    QAccessible::deleteAccessibleInterface(
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(this)));
 }
 
 int32_t UserControl1::itemAt(QPoint at) const
@@ -56,4 +56,44 @@ int32_t UserControl1::itemAt(QPoint at) const
         if (itemRect(item).contains(at))
             return item;
     return 0;
+}
+
+// The rows a screen reader was given keep their items whether a reader listens now or
+// not; only a listening reader gets told of new ones.
+ListAccessible* UserControl1::readerView()
+{
+    return dynamic_cast<ListAccessible*>(QAccessible::queryAccessibleInterface(this));
+}
+
+// The item is a new child of the list: a screen reader reads it out as it arrives.
+void UserControl1::announceItem(int32_t item)
+{
+    ListAccessible* list = readerView();
+    if (!list)
+        return;
+    list->itemInserted(item);
+    if (!QAccessible::isActive())
+        return;
+    if (QAccessibleInterface* row = list->child(item - 1)) {
+        QAccessibleEvent created(row, QAccessible::ObjectCreated);
+        QAccessible::updateAccessibility(&created);
+    }
+}
+
+void UserControl1::forgetItem(int32_t item)
+{
+    if (ListAccessible* list = readerView())
+        list->itemRemoved(item);
+}
+
+void UserControl1::forgetItems()
+{
+    ListAccessible* list = readerView();
+    if (!list)
+        return;
+    list->itemsReset();
+    if (QAccessible::isActive()) {
+        QAccessibleEvent reordered(this, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&reordered);
+    }
 }

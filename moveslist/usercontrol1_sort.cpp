@@ -121,12 +121,14 @@ private:
 void UserControl1::SortAscending()
 {
     QuickSortUp(1, to16(m_state.ItemCount));
+    forgetItems();
     DrawRows(m_state.TopRow, m_state.BottomRow);
 }
 
 void UserControl1::SortDescending()
 {
     QuickSortDown(1, to16(m_state.ItemCount));
+    forgetItems();
     DrawRows(m_state.TopRow, m_state.BottomRow);
 }
 

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 using moveslist::to16;
@@ -54,6 +56,13 @@ void UserControl1::Additem(QString& s, int16_t itemx, int16_t& ipic, QString& It
     // The first line of a log, put on top, takes the append path and its measuring.
     if (itemx == 1 && m_state.ItemCount == 0)
         itemx = 0;
+    // A screen reader hears of every item stored, also of one whose overflow fails the
+    // call after storing it.
+    const int32_t before = m_state.ItemCount;
+    const auto announce = qScopeGuard([&] {
+        if (m_state.ItemCount > before)
+            announceItem(itemx > 0 ? itemx : m_state.ItemCount);
+    });
     if (itemx > 0)
         additemInsert(s, itemx, ipic, ItemColor, topInsert);
     else
@@ -122,6 +131,7 @@ void UserControl1::RemoveItem(const AnyValue& it)
     const int32_t n = entryOf(it);
     if (n == 0)
         return;
+    forgetItem(n);
     if (m_state.ItemCount == 1) {
         Picture1->Cls();
         m_state.ItemCount = 0;
@@ -160,6 +170,7 @@ int32_t UserControl1::entryOf(const AnyValue& it) const
 // selection and the scroll bar all stay.
 void UserControl1::Clear()
 {
+    forgetItems();
     Picture1->Cls();
     Picture3->Cls();
     m_state.ItemCount = 0;

@@ -1,4 +1,5 @@
 #include "window/form1.h"
+#include "window/formaccessible.h"
 
 #include "common/numbers.h"
 #include "controls/quillet.h"
@@ -48,14 +49,20 @@ void Form1::describeButton(Quillet* button)
 }
 
 // The keyboard's selection shows nowhere on the screen. A screen reader hears it as the
-// focus moving to that pot, and finds it in the pot's description.
-void Form1::announceKeyboardPot()
+// focus moving to that pot, and finds it in the pot's description while Enter would
+// play it: a pot emptied under the selection is no longer said to be selected.
+void Form1::describeSelection(bool announce)
 {
-    const int16_t selected = m_game.state().KeyboardPot;
-    for (int16_t s = FirstHumanPot; s <= LastHumanPot; ++s)
-        Pots[s]->setAccessibleDescription(s == selected ? QStringLiteral("Selected: Enter plays it")
-                                                        : QString());
-    if (!isHumanPot(selected))
+    const GameState& state = m_game.state();
+    const int16_t selected = state.KeyboardPot;
+    for (int16_t s = FirstHumanPot; s <= LastHumanPot; ++s) {
+        const bool playable = s == selected && state.Beads[s] > 0 && !state.GameFinished;
+        const QString description =
+            playable ? QStringLiteral("Selected: Enter plays it") : QString();
+        if (Pots[s]->accessibleDescription() != description)
+            Pots[s]->setAccessibleDescription(description);
+    }
+    if (!announce || !isHumanPot(selected))
         return;
     QAccessibleEvent focus(Pots[selected], QAccessible::Focus);
     QAccessible::updateAccessibility(&focus);
@@ -72,4 +79,48 @@ void Form1::voiceMovesList()
             return QStringLiteral("%1, computer's").arg(text);
         return text;
     });
+}
+
+// The window as a screen reader sees it: a frame titled by its caption, holding only
+// what is on the screen. The hidden text box that carries a pick to the game, the
+// stored pictures and the hand or score board while hidden are not there.
+FormAccessible::FormAccessible(Form1* form) : QAccessibleWidget(form, QAccessible::Window) {}
+
+QList<QAccessibleInterface*> FormAccessible::shown() const
+{
+    QList<QAccessibleInterface*> children;
+    for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+        QAccessibleInterface* child = QAccessibleWidget::child(i);
+        const auto* w = child ? qobject_cast<const QWidget*>(child->object()) : nullptr;
+        if (child && (!w || !w->isHidden()))
+            children << child;
+    }
+    return children;
+}
+
+int FormAccessible::childCount() const
+{
+    return int(shown().size());
+}
+
+QAccessibleInterface* FormAccessible::child(int index) const
+{
+    return shown().value(index);
+}
+
+int FormAccessible::indexOfChild(const QAccessibleInterface* child) const
+{
+    const QList<QAccessibleInterface*> children = shown();
+    for (int i = 0; i < children.size(); ++i)
+        if (children[i] == child)
+            return i;
+    return -1;
+}
+
+QAccessibleInterface* FormAccessible::create(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("Form1"))
+        return nullptr;
+    auto* form = qobject_cast<Form1*>(object);
+    return form != nullptr ? new FormAccessible(form) : nullptr;
 }

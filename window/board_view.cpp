@@ -30,6 +30,7 @@ void Form1::DrawPot(int16_t Pot, const std::string& Text)
     pot->caption(face);
     pot->Tag(face);
     describePot(Pot);
+    describeSelection(false);
 }
 
 // The hover look: a human pot with beads shows its count in the hollow of the bank.
@@ -50,4 +51,5 @@ void Form1::mouseMoveEvent(QMouseEvent* event)
     m_game.Form_MouseMove(buttonNumber(event->buttons()), shiftNumber(event->modifiers()),
                           Twips::fromPixels(static_cast<float>(at.x())),
                           Twips::fromPixels(static_cast<float>(at.y())));
+    describeSelection(false);
 }

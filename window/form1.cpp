@@ -1,4 +1,5 @@
 #include "window/form1.h"
+#include "window/formaccessible.h"
 
 #include "assets/pictures.h"
 #include "common/twips.h"
@@ -8,6 +9,7 @@
 #include "moveslist/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
@@ -17,6 +19,23 @@
 #include <QSlider>
 
 namespace {
+
+// The slider for the beads per pot. Locked for the rest of a game, it is hatched over,
+// so that nobody reaches for it in vain.
+class BeadSlider : public QSlider {
+public:
+    explicit BeadSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QSlider::paintEvent(event);
+        if (isEnabled())
+            return;
+        QPainter painter(this);
+        painter.fillRect(rect(), QBrush(palette().color(QPalette::Dark), Qt::BDiagPattern));
+    }
+};
 
 QString fromStd(const std::string& s)
 {
@@ -63,6 +82,8 @@ static void installFontSubstitutes()
 
 Form1::Form1(QWidget* parent) : QWidget(parent)
 {
+    static const bool readable = (QAccessible::installFactory(&FormAccessible::create), true);
+    Q_UNUSED(readable);
     installFontSubstitutes();
     setWindowTitle(QStringLiteral("TAVOK"));
     setWindowIcon(QIcon(Pictures::Board));
@@ -156,8 +177,9 @@ void Form1::createControls()
     makeFlat(Hand);
     Hand->picture(Pictures::load(Pictures::Hand));
     Hand->Visible(false);
+    Hand->setAccessibleName(QStringLiteral("The hint points here"));
 
-    StartBeads = new QSlider(Qt::Horizontal, this);
+    StartBeads = new BeadSlider(this);
     StartBeads->setObjectName(QStringLiteral("StartBeads"));
     StartBeads->setGeometry(pxRect(Layout::StartBeads));
     StartBeads->setRange(2, 99);
@@ -165,6 +187,7 @@ void Form1::createControls()
     StartBeads->setPageStep(10);
     StartBeads->setValue(99);
     StartBeads->setAttribute(Qt::WA_NoMousePropagation);
+    StartBeads->setAccessibleName(QStringLiteral("Beads per pot"));
 
     Text1 = new QLineEdit(QStringLiteral("Text1"), this);
     Text1->setObjectName(QStringLiteral("Text1"));
@@ -177,6 +200,9 @@ void Form1::createControls()
     makePlainButton(Mess, QStringLiteral("Command"));
     Mess->setFont(sansSerifFont(false));
     Mess->enabled(false);
+    // The bar says "YOUR MOVE NOW" while it takes no clicks: its words stay black.
+    Mess->setReadableWhenOff(true);
+    Mess->setAccess(Quillet::Access::Bar);
 
     createBoard();
 
@@ -221,6 +247,8 @@ void Form1::createBoard()
             pot->picture(isHumanPot(s) ? greenRaised : redRaised);
         // The computer's pots are stored disabled: they take the mouse only after a restart.
         pot->enabled(!isComputerPot(s));
+        // A screen reader presses the human's pots to play them, and reads the others.
+        pot->setAccess(isHumanPot(s) ? Quillet::Access::Button : Quillet::Access::Label);
         Pots[s] = pot;
     }
 
@@ -266,10 +294,12 @@ void Form1::createBoard()
     Image1->setGeometry(pxRect(Layout::Image1));
     Image1->setScaledContents(true);
     Image1->setPixmap(Pictures::load(Pictures::ArrowRed));
+    Image1->setAccessibleName(QStringLiteral("The sowing goes on past the computer's bank"));
     Image2 = makeLabel(this, "Image2", {});
     Image2->setGeometry(pxRect(Layout::Image2));
     Image2->setScaledContents(true);
     Image2->setPixmap(Pictures::load(Pictures::ArrowGreen));
+    Image2->setAccessibleName(QStringLiteral("The sowing goes on past your bank"));
 }
 
 static QGroupBox* makeFrame(QWidget* parent, const char* name)
@@ -293,6 +323,7 @@ void Form1::createCommandPanel()
         q->setObjectName(QString::fromLatin1(name));
         q->place(r.left, r.top, r.width, r.height);
         makePlainButton(q, caption);
+        q->setAccess(Quillet::Access::Button);
         if (!tip.isEmpty())
             q->setToolTip(tip);
         describeButton(q);
@@ -346,13 +377,22 @@ void Form1::connectHandlers()
     connect(StartBeads, &QSlider::valueChanged, this, [this] { m_game.StartBeads_Change(); });
 }
 
-// Of the controls that can take the focus, the slider comes first, then the log.
+// The slider comes first, then the message bar and the log in the right-hand column,
+// then the buttons as they stand down the left. The pots are played by the keys' walk
+// and Enter, not by Tab. A button takes the focus from Tab only, never from a click, so
+// that the keys go on walking and scrolling where they did.
 void Form1::orderTabs()
 {
     for (QWidget* w : findChildren<QWidget*>())
         if (w != StartBeads && w != MovesList && !MovesList->isAncestorOf(w))
             w->setFocusPolicy(Qt::NoFocus);
-    setTabOrder(StartBeads, MovesList);
+    const std::array<QWidget*, 11> chain{StartBeads, Mess,   MovesList, Undox,  Pausex, TakeComp,
+                                         GiveHint,   Scorex, Helpx,     Aboutx, Quitx};
+    for (QWidget* w : chain)
+        if (qobject_cast<Quillet*>(w))
+            w->setFocusPolicy(Qt::TabFocus);
+    for (size_t i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
     StartBeads->setFocus();
 }
 
@@ -431,9 +471,21 @@ void Form1::setUndoxEnabled(bool enabled)
 {
     Undox->enabled(enabled);
 }
+// A pause shuts the command frame: a player on its buttons by the keyboard is taken to
+// the bar, where Space goes on, and back to the button when the frame opens again.
 void Form1::setCommandFrameEnabled(bool enabled)
 {
+    QWidget* focus = QApplication::focusWidget();
+    if (!enabled && focus && CommandFrame->isAncestorOf(focus) && Mess->isEnabled()) {
+        m_focusBeforePause = focus;
+        Mess->setFocus(Qt::OtherFocusReason);
+    }
     CommandFrame->setEnabled(enabled);
+    if (enabled && m_focusBeforePause) {
+        if (!focus || focus == Mess || MovesList->isAncestorOf(focus))
+            m_focusBeforePause->setFocus(Qt::OtherFocusReason);
+        m_focusBeforePause = nullptr;
+    }
 }
 void Form1::setPausexCaption(const std::string& caption)
 {

@@ -85,7 +85,7 @@ private:
     void describePot(int16_t Slot);
     void describeTotal(int16_t Index);
     void describeButton(Quillet* button);
-    void announceKeyboardPot();
+    void describeSelection(bool announce);
     void voiceMovesList();
     void createControls();
     void createBoard();
@@ -125,4 +125,5 @@ private:
     QLabel* Image4 = nullptr;
     QLabel* Image3 = nullptr;
     QPointer<HelpForm> m_helpForm;
+    QPointer<QWidget> m_focusBeforePause;
 };

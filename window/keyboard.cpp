@@ -22,7 +22,9 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
     const auto* key = static_cast<QKeyEvent*>(event);
     const int16_t before = m_game.state().KeyboardPot;
     m_game.Form_KeyDown(keyNumber(*key), 0);
-    if (m_game.state().KeyboardPot != before)
-        announceKeyboardPot();
+    describeSelection(m_game.state().KeyboardPot != before);
+    // F1 is the help key of every desktop; the walk has counted it like any key.
+    if (key->key() == Qt::Key_F1 && !key->isAutoRepeat())
+        Helpx_Click();
     return false;
 }
