@@ -47,11 +47,13 @@ QStringList QuilletAccessible::actionNames() const
     return names;
 }
 
+// The press comes after the reader's call has returned, as a button's animated click
+// does: a move it starts may wait in a pause for the reader's next press.
 void QuilletAccessible::doAction(const QString& actionName)
 {
     if (actionName == pressAction()) {
         if (pressable())
-            face()->press();
+            QMetaObject::invokeMethod(face(), &Quillet::press, Qt::QueuedConnection);
         return;
     }
     QAccessibleWidget::doAction(actionName);

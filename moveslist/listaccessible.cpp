@@ -84,8 +84,29 @@ void ListAccessible::itemsReset()
     m_rows.clear();
 }
 
+namespace {
+
+// The canvas that takes the keyboard's focus for the list: a screen reader told of the
+// focus there hears the list's own name and role, not a nameless part.
+class CanvasAccessible : public QAccessibleWidget {
+public:
+    explicit CanvasAccessible(QWidget* canvas) : QAccessibleWidget(canvas, QAccessible::List) {}
+
+    QString text(QAccessible::Text t) const override
+    {
+        if (QAccessibleInterface* list = parent())
+            return list->text(t);
+        return QAccessibleWidget::text(t);
+    }
+};
+
+} // namespace
+
 QAccessibleInterface* ListAccessible::create(const QString& className, QObject* object)
 {
+    if (className == QLatin1String("PictureBox") && object->objectName() == u"Picture1" &&
+        qobject_cast<UserControl1*>(object->parent()))
+        return new CanvasAccessible(static_cast<QWidget*>(object));
     if (className != QLatin1String("UserControl1"))
         return nullptr;
     auto* list = qobject_cast<UserControl1*>(object);

@@ -17,6 +17,7 @@ package=(
 test=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core fonts-liberation xvfb xauth
+  dbus-daemon at-spi2-core python3-pyatspi
   appstream desktop-file-utils lintian reuse
   clang libclang-rt-14-dev
 )

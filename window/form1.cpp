@@ -33,6 +33,9 @@ protected:
         if (isEnabled())
             return;
         QPainter painter(this);
+        QColor veil = palette().color(QPalette::Window);
+        veil.setAlpha(170);
+        painter.fillRect(rect(), veil);
         painter.fillRect(rect(), QBrush(palette().color(QPalette::Dark), Qt::BDiagPattern));
     }
 };
@@ -203,6 +206,7 @@ void Form1::createControls()
     // The bar says "YOUR MOVE NOW" while it takes no clicks: its words stay black.
     Mess->setReadableWhenOff(true);
     Mess->setAccess(Quillet::Access::Bar);
+    Mess->setAccessibleDescription(QStringLiteral("The game's messages"));
 
     createBoard();
 
@@ -313,8 +317,10 @@ static QGroupBox* makeFrame(QWidget* parent, const char* name)
 void Form1::createCommandPanel()
 {
     Frame2 = makeFrame(this, "Frame2");
+    Frame2->setAccessibleName(QStringLiteral("Program"));
     Frame2->setGeometry(pxRect(Layout::Frame2));
     CommandFrame = makeFrame(this, "CommandFrame");
+    CommandFrame->setAccessibleName(QStringLiteral("Game"));
     CommandFrame->setGeometry(pxRect(Layout::CommandFrame));
 
     auto button = [this](QWidget* frame, const char* name, const Layout::Rect& r,
@@ -386,12 +392,16 @@ void Form1::orderTabs()
     for (QWidget* w : findChildren<QWidget*>())
         if (w != StartBeads && w != MovesList && !MovesList->isAncestorOf(w))
             w->setFocusPolicy(Qt::NoFocus);
-    const std::array<QWidget*, 11> chain{StartBeads, Mess,   MovesList, Undox,  Pausex, TakeComp,
-                                         GiveHint,   Scorex, Helpx,     Aboutx, Quitx};
+    QList<QWidget*> chain{StartBeads, Mess};
+    // The log's own parts that take the focus, in the log's order.
+    for (QWidget* w : MovesList->findChildren<QWidget*>())
+        if (w->focusPolicy() & Qt::TabFocus)
+            chain << w;
+    chain << QList<QWidget*>{Undox, Pausex, TakeComp, GiveHint, Scorex, Helpx, Aboutx, Quitx};
     for (QWidget* w : chain)
         if (qobject_cast<Quillet*>(w))
             w->setFocusPolicy(Qt::TabFocus);
-    for (size_t i = 1; i < chain.size(); ++i)
+    for (qsizetype i = 1; i < chain.size(); ++i)
         setTabOrder(chain[i - 1], chain[i]);
     StartBeads->setFocus();
 }

@@ -44,25 +44,17 @@ TEST_F(Spoken, PotsSayTheirLetterSideAndCount)
     EXPECT_EQ(spokenName(named("Mess")), QStringLiteral("YOUR MOVE NOW"));
 }
 
-TEST_F(Spoken, ButtonsSayWhatTheyDo)
+// The whole game through a screen reader's own means is played by tests/a11y; here,
+// what it cannot reach: the focus that leaves the locked slider lands on the log under
+// the log's own name.
+TEST_F(Spoken, AfterTheFirstMoveTheFocusIsOnTheLogByName)
 {
-    EXPECT_EQ(spokenName(named("GiveHint")), QStringLiteral("Give hint"));
-    QTest::mouseClick(qobject_cast<QWidget*>(named("Pausex")), Qt::LeftButton);
-    EXPECT_EQ(spokenName(named("Pausex")), QStringLiteral("Pause at moves"));
-}
-
-TEST_F(Spoken, TheKeyboardSelectionIsHeardThoughNothingShows)
-{
-    // Keys go where the focus is, as the window system sends them.
-    QWidget* focus = QApplication::focusWidget() ? QApplication::focusWidget() : &form;
-    auto description = [&](const char* pot) {
-        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(named(pot));
-        return face->text(QAccessible::Description);
-    };
-    QTest::keyClick(focus, Qt::Key_A);
-    EXPECT_FALSE(description("Pots0").isEmpty());
-    QTest::keyClick(focus, Qt::Key_A);
-    EXPECT_TRUE(description("Pots0").isEmpty());
-    EXPECT_FALSE(description("Pots1").isEmpty());
-    EXPECT_EQ(spokenName(named("Pots1")), QStringLiteral("Pot B, yours, 3 beads"));
+    QApplication::setActiveWindow(&form);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QTest::mouseClick(qobject_cast<QWidget*>(named("Pots2")), Qt::LeftButton);
+    QAccessibleInterface* focus =
+        QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+    ASSERT_NE(focus, nullptr);
+    EXPECT_EQ(focus->role(), QAccessible::List);
+    EXPECT_EQ(focus->text(QAccessible::Name), QStringLiteral("Moves"));
 }
