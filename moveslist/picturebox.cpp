@@ -103,12 +103,11 @@ void PictureBox::Line(double y, double fromX, double toX, int32_t colour)
     syncImage();
     const int row = pixelY(y);
     const int left = pixelX(fromX), right = pixelX(toX);
-    if (left == right)
+    // Ruled from left to right, the end point left out.
+    if (left >= right)
         return;
-    // The end point is left out.
-    const int first = std::min(left, right + 1), last = std::max(left, right - 1);
-    horizontalLine(row, first, last, olecolor::toQColor(colour).rgb());
-    drawn(QRect(QPoint(first, row), QPoint(last, row)));
+    horizontalLine(row, left, right - 1, olecolor::toQColor(colour).rgb());
+    drawn(QRect(QPoint(left, row), QPoint(right - 1, row)));
 }
 
 void PictureBox::filledBox(QPointF from, QPointF to, int32_t colour)

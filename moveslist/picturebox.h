@@ -52,8 +52,8 @@ public:
     void Print(const QString& text);
     double TextWidth(const QString& text) const;
     double TextHeight(const QString& text) const;
-    // A level line at height y from one x to the other, end point left out, under
-    // DrawMode: the only kind of line the list draws.
+    // A level line at height y from fromX to toX, left to right, end point left out,
+    // under DrawMode: the only kind of line the list draws.
     void Line(double y, double fromX, double toX, int32_t colour);
     // A filled box from one corner to the other, under DrawMode.
     void filledBox(QPointF from, QPointF to, int32_t colour);

@@ -121,6 +121,12 @@ TEST(MarletRecord, OutlivesTheBoardOnlyWhenKept)
     Marlets::Marlet again, other;
     again.ScoreTitle(QStringLiteral("Tavok"));
     EXPECT_EQ(record(again), (std::array{1, 1, 1}));
+    // A count below nothing is no count: the record starts afresh.
+    QSettings(QStringLiteral("Tavok"), QStringLiteral("Tavok"))
+        .setValue(QStringLiteral("Score/Damaged/lost"), -3);
+    Marlets::Marlet damaged;
+    damaged.ScoreTitle(QStringLiteral("Damaged"));
+    EXPECT_EQ(record(damaged), (std::array{0, 0, 0}));
     other.ScoreTitle(QStringLiteral("Another game"));
     EXPECT_EQ(record(other), (std::array{0, 0, 0}));
 

@@ -144,21 +144,25 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
     const int across = blueAcrossTheMiddle(rendered(pot));
     EXPECT_GE(across, pot.width() - 2);
     EXPECT_LE(across, pot.width());
-    // Visible only in its first column, it still shrinks to bring that column in, to
-    // the face's left end (the clear edge lets it show).
+    // Visible only in its first column, or in a short stroke on its first or last row,
+    // it still shrinks to bring that in, to the face's end (the clear edges let it show).
     pot.borderleft(Qt::transparent);
-    QImage edge(64, 64, QImage::Format_ARGB32);
-    edge.fill(Qt::transparent);
-    for (int y = 0; y < 64; ++y)
-        edge.setPixelColor(0, y, Qt::blue);
-    pot.picture(QPixmap::fromImage(edge));
-    const QImage face = rendered(pot);
-    int bluish = 0;
-    for (int x = 0; x < face.width(); ++x) {
-        const QColor c = face.pixelColor(x, face.height() / 2);
-        bluish += c.blue() > c.red() + 40;
+    pot.bordertop(Qt::transparent);
+    pot.borderbottom(Qt::transparent);
+    for (const QRect line : {QRect(0, 0, 1, 64), QRect(24, 0, 16, 1), QRect(24, 63, 16, 1)}) {
+        QImage edge(64, 64, QImage::Format_ARGB32);
+        edge.fill(Qt::transparent);
+        QPainter(&edge).fillRect(line, Qt::blue);
+        pot.picture(QPixmap::fromImage(edge));
+        const QImage face = rendered(pot);
+        int bluish = 0;
+        for (int y = 0; y < face.height(); ++y)
+            for (int x = 0; x < face.width(); ++x) {
+                const QColor c = face.pixelColor(x, y);
+                bluish += c.blue() > c.red() + 40;
+            }
+        EXPECT_GT(bluish, 0) << line.x() << "," << line.y() << " " << line.width();
     }
-    EXPECT_GT(bluish, 0);
 }
 
 // The hand goes where a letter stands, in twips that need not fall on a pixel; moved by

@@ -33,5 +33,6 @@ TEST(NumberText, CountsFillThreePlaces)
 {
     EXPECT_EQ(Game::StrCount(3), "  3");
     EXPECT_EQ(Game::StrCount(12), " 12");
+    EXPECT_EQ(Game::StrCount(123), "123");
     EXPECT_EQ(Game::StrCount(1188), "1188");
 }

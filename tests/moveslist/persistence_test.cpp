@@ -90,9 +90,13 @@ TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
             << wrote.key.toStdString();
     }
     EXPECT_TRUE(lbblock::read(lbblock::write(PropertyBag())).entries().empty());
+    // A block of one entry, a number or a text that ends it.
     PropertyBag lone;
     lone.writeProperty("Mode", PropertyType::Integer, 1, 0);
     EXPECT_EQ(lbblock::read(lbblock::write(lone)).readProperty("mode", 0), AnyValue(1));
+    PropertyBag text;
+    text.writeProperty("Fontname", PropertyType::Text, "Serif", "");
+    EXPECT_EQ(lbblock::read(lbblock::write(text)).readProperty("fontname", ""), AnyValue("Serif"));
 }
 
 // Dotted capital I lowers to two characters: a key that fits 16 bits before lowering

@@ -108,11 +108,18 @@ TEST_P(QuitWithHelp, ClosesTheHelpWindowToo)
             help = h;
     ASSERT_TRUE(help);
     ASSERT_TRUE(help->isVisible());
+    // No page lies beside this test: the window names where an installed game keeps it.
+    EXPECT_TRUE(help->Tag().endsWith(QStringLiteral("/share/games/tavok/tavok.htm")))
+        << help->Tag().toStdString();
     if (hidden)
         help->hide();
+    // Any other window of the program goes too.
+    QWidget other;
+    other.show();
     QTest::mouseClick(form.findChild<Quillet*>(QStringLiteral("Quitx")), Qt::LeftButton);
     QApplication::processEvents();
     EXPECT_TRUE(help.isNull());
+    EXPECT_FALSE(other.isVisible());
     EXPECT_FALSE(form.isVisible());
 }
 
