@@ -55,6 +55,25 @@ TEST_P(Positions, PlayAsTheRulesSay)
         {"hintdown", [&](auto&) { hintDown(); }},
         {"hintup", [&](auto&) { hintUp(); }},
         {"slider", [&](auto& v) { screen.moveSlider(number(v)); }},
+        {"key", [&](auto& v) { key(number(v)); }},
+        {"select", [&](auto& v) { state.KeyboardPot = number(v); }},
+        {"selected", [&](auto& v) { EXPECT_EQ(state.KeyboardPot, number(v)); }},
+        {"mouseup",
+         [&](auto& v) {
+             const auto space = v.find(' ');
+             game.Pots_MouseUp(number(v.substr(0, space)), number(v.substr(space + 1)), 0, 0, 0);
+         }},
+        {"face", [&](auto& v) { screen.tags.at(number(v)) = ""; }},
+        // A pick handed to HumanMove, and the result it must give: "pick  3 0".
+        {"pick",
+         [&](auto& v) {
+             const auto space = v.rfind(' ');
+             state.Text1 = v.substr(0, space);
+             int16_t result = 99;
+             game.HumanMove(result);
+             EXPECT_EQ(result, number(v.substr(space + 1))) << "pick '" << state.Text1 << "'";
+         }},
+        {"undo", [&](auto& v) { EXPECT_EQ(screen.undoxEnabled, v == "1"); }},
         {"hot",
          [&](auto& v) {
              std::string flags;

@@ -112,8 +112,8 @@ TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
 TEST_F(Browser, PicturesComeFromBesideThePageAtTheScreensRatio)
 {
     const QVariant resource = view->document()->resource(
-        QTextDocument::ImageResource, QUrl::fromLocalFile(QFileInfo(page.path()).path() +
-                                                          QStringLiteral("/help/dot.png")));
+        QTextDocument::ImageResource,
+        QUrl::fromLocalFile(QFileInfo(page.path()).path() + QStringLiteral("/help/dot.png")));
     const QImage picture = resource.typeId() == QMetaType::QPixmap
                                ? resource.value<QPixmap>().toImage()
                                : resource.value<QImage>();

@@ -87,15 +87,6 @@ std::vector<std::string> RecordingScreen::logTexts() const
     return texts;
 }
 
-std::vector<std::string> RecordingScreen::callsStartingWith(const std::string& prefix) const
-{
-    std::vector<std::string> picked;
-    for (const auto& call : calls)
-        if (call.starts_with(prefix))
-            picked.push_back(call);
-    return picked;
-}
-
 Board parseBoard(const std::string& text)
 {
     std::string spaced = text;

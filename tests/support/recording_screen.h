@@ -101,8 +101,6 @@ public:
     void moveSlider(int16_t value);
     // Log texts, oldest first: the order in which they were written.
     std::vector<std::string> logTexts() const;
-    // Only the calls that begin with prefix, in order.
-    std::vector<std::string> callsStartingWith(const std::string& prefix) const;
 
 private:
     static std::string shown(bool on) { return on ? "1" : "0"; }
