@@ -20,8 +20,7 @@ double AnyValue::toNumberStrict() const
     bool ok = false;
     const double number = text->trimmed().toDouble(&ok);
     if (!ok)
-        throw ListError(ListErrorCode::TypeMismatch,
-                        QStringLiteral("Type mismatch: \"%1\" is not a number").arg(*text));
+        throw ListError(ListErrorCode::TypeMismatch);
     return number;
 }
 

@@ -13,9 +13,7 @@ void ImageList::add(const QImage& picture)
 const ImageList::ListImage& ImageList::ListImages(int index) const
 {
     if (index < 1 || index > count())
-        throw ListError(
-            ListErrorCode::ImageIndexOutOfBounds,
-            QStringLiteral("Index out of bounds: the image list has no picture %1").arg(index));
+        throw ListError(ListErrorCode::ImageIndexOutOfBounds);
     return m_images[static_cast<size_t>(index - 1)];
 }
 
@@ -43,7 +41,6 @@ ImageList ImageList::load(const QByteArray& data)
         list.add(picture);
     }
     if (count < 0 || in.status() != QDataStream::Ok)
-        throw ListError(ListErrorCode::InvalidFileFormat,
-                        QStringLiteral("Invalid file format: the stored image list is damaged"));
+        throw ListError(ListErrorCode::InvalidFileFormat);
     return list;
 }

@@ -17,9 +17,7 @@ QString join(const QStringList& columns)
 const QString& column(const QStringList& columns, int c)
 {
     if (c < 0 || c >= columns.size())
-        throw ListError(
-            ListErrorCode::SubscriptOutOfRange,
-            QStringLiteral("Subscript out of range: the record has no column %1").arg(c));
+        throw ListError(ListErrorCode::SubscriptOutOfRange);
     return columns[c];
 }
 

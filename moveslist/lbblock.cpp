@@ -13,12 +13,10 @@ namespace lbblock {
 
 namespace {
 
-[[noreturn]] void refuse(const QString& what, qint64 offset)
+// A damaged block is refused whatever the damage: the caller hears the code alone.
+[[noreturn]] void refuse()
 {
-    throw ListError(ListErrorCode::InvalidFileFormat,
-                    QStringLiteral("Invalid file format: %1 at byte %2 of the property block")
-                        .arg(what)
-                        .arg(offset));
+    throw ListError(ListErrorCode::InvalidFileFormat);
 }
 
 // Reads little-endian values from a block, never past its end.
@@ -55,7 +53,7 @@ public:
     void need(qint64 at, qint64 count) const
     {
         if (count < 0 || at < 0 || at + count > m_data.size())
-            refuse(QStringLiteral("the block ends before the %1 bytes needed").arg(count), at);
+            refuse(); // the block ends before the … bytes needed
     }
 
 private:
@@ -90,7 +88,7 @@ qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
         in.need(at + 4, characters * 2 + 2);
         entry.value = in.utf16(at + 4, characters);
         if (in.number<uint16_t>(at + 4 + characters * 2) != 0)
-            refuse(QStringLiteral("a text without its closing zero"), at);
+            refuse(); // a text without its closing zero
         return 4 + characters * 2 + 2;
     }
     case PropertyType::Object: {
@@ -99,7 +97,7 @@ qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
         return 4 + count;
     }
     }
-    refuse(QStringLiteral("an unknown value type %1").arg(int(entry.type)), at);
+    refuse(); // an unknown value type …
 }
 
 bool knownType(int16_t type)
@@ -122,11 +120,11 @@ std::pair<qint64, qint64> readEntry(const Reader& in, qint64 at, PropertyEntry& 
 {
     const auto type = in.number<int16_t>(at);
     if (!knownType(type))
-        refuse(QStringLiteral("an unknown value type %1").arg(type), at);
+        refuse(); // an unknown value type …
     entry.type = static_cast<PropertyType>(type);
     const auto keyLength = in.number<int16_t>(at + 2);
     if (keyLength <= 0)
-        refuse(QStringLiteral("a key of length %1").arg(keyLength), at + 2);
+        refuse(); // a key of length …
     entry.hash = in.number<uint32_t>(at + 4);
     const auto step = static_cast<qint64>(in.number<int32_t>(at + 8));
     entry.key = in.utf16(at + 12, keyLength);
@@ -134,7 +132,7 @@ std::pair<qint64, qint64> readEntry(const Reader& in, qint64 at, PropertyEntry& 
     const qint64 size = padded(unpadded);
     const QByteArray padding = in.bytes(at + unpadded, size - unpadded);
     if (padding.count('\0') != padding.size())
-        refuse(QStringLiteral("padding that is not zero"), at + unpadded);
+        refuse(); // padding that is not zero
     return {size, step};
 }
 
@@ -142,20 +140,16 @@ void checkHeader(const Reader& in, const QByteArray& block)
 {
     in.need(0, HeaderSize);
     if (!block.startsWith("-LB"))
-        refuse(QStringLiteral("no \"-LB\" signature"), 0);
+        refuse(); // no "-LB" signature
     if (in.number<int16_t>(3) != BlockKind)
-        refuse(
-            QStringLiteral("block kind %1 instead of %2").arg(in.number<int16_t>(3)).arg(BlockKind),
-            3);
+        refuse(); // block kind … instead of …
     const uint32_t count = in.number<uint32_t>(5);
     if (in.number<uint32_t>(9) != Marker)
-        refuse(QStringLiteral("a wrong marker"), 9);
+        refuse(); // a wrong marker
     if (in.number<uint32_t>(13) != count)
-        refuse(QStringLiteral("two byte counts that differ"), 13);
+        refuse(); // two byte counts that differ
     if (static_cast<qint64>(count) + 9 != in.size())
-        refuse(
-            QStringLiteral("a byte count of %1 for a block of %2 bytes").arg(count).arg(in.size()),
-            5);
+        refuse(); // a byte count of … for a block of … bytes
 }
 
 } // namespace
@@ -172,19 +166,17 @@ PropertyBag read(const QByteArray& block)
         bag.add(std::move(entry));
         if (step <= 0) {
             if (at + step != HeaderSize)
-                refuse(QStringLiteral("a last step that does not lead back to the first entry"),
-                       at + 8);
+                refuse(); // a last step that does not lead back to the first entry
             if (at + size != in.size())
-                refuse(QStringLiteral("bytes after the last entry"), at + size);
+                refuse(); // bytes after the last entry
             return bag;
         }
         if (step != size)
-            refuse(QStringLiteral("a step of %1 for an entry of %2 bytes").arg(step).arg(size),
-                   at + 8);
+            refuse(); // a step of … for an entry of … bytes
         at += step;
     }
     if (at != HeaderSize)
-        refuse(QStringLiteral("entries without a last one"), at);
+        refuse(); // entries without a last one
     return bag;
 }
 
@@ -236,8 +228,7 @@ QByteArray entryBytes(const PropertyEntry& entry)
     // rather than written with a length that lies.
     const QString key = entry.key.toLower();
     if (key.size() > std::numeric_limits<int16_t>::max())
-        throw ListError(ListErrorCode::Overflow,
-                        QStringLiteral("Overflow: a property key longer than 32767 characters"));
+        throw ListError(ListErrorCode::Overflow);
     QByteArray out;
     append<int16_t>(out, static_cast<int16_t>(entry.type));
     append<int16_t>(out, static_cast<int16_t>(key.size()));

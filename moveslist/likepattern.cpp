@@ -7,10 +7,9 @@
 
 namespace {
 
-[[noreturn]] void invalidPattern(const QString& pattern, const QString& why)
+[[noreturn]] void invalidPattern()
 {
-    throw ListError(ListErrorCode::InvalidPattern,
-                    QStringLiteral("Invalid pattern string \"%1\": %2").arg(pattern, why));
+    throw ListError(ListErrorCode::InvalidPattern);
 }
 
 } // namespace
@@ -61,7 +60,7 @@ qsizetype LikePattern::readList(const QString& pattern, qsizetype open)
         ++first;
     const qsizetype close = pattern.indexOf(u']', first);
     if (close < 0)
-        invalidPattern(pattern, QStringLiteral("a [ is never closed"));
+        invalidPattern(); // a [ is never closed
     // [] takes no character; [!] is a list of nothing left out, so any character.
     if (close == first && !negated)
         return close;
@@ -73,9 +72,7 @@ qsizetype LikePattern::readList(const QString& pattern, qsizetype open)
         if (!hyphenFirst && i + 2 < close && pattern[i + 1] == u'-') {
             const char16_t high = pattern[i + 2].unicode();
             if (high < low)
-                invalidPattern(pattern, QStringLiteral("the range %1-%2 runs backwards")
-                                            .arg(QChar(low))
-                                            .arg(QChar(high)));
+                invalidPattern(); // the range …-… runs backwards
             list.ranges.push_back({low, high});
             i += 2;
         } else {

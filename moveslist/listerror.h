@@ -20,11 +20,16 @@
 //   387    'Set' not permitted: ListCount or ListIndex written at design time.
 //   481    Invalid picture: a row picture that cannot be painted even as a plain copy.
 //   35600  Index out of bounds: the image list has no picture under that index.
+//
+// what() is the code's standard description, and nothing of the list's own: a host
+// reports it as it would any failure of the platform.
 class ListError : public std::runtime_error {
 public:
-    ListError(int code, const QString& what);
+    explicit ListError(int code);
 
     int code() const { return m_code; }
+    // "Invalid property value" for 380, and so on; empty for a code not listed here.
+    static const char* description(int code);
 
 private:
     int m_code;

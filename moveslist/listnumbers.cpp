@@ -22,9 +22,7 @@ template <typename Int> Int toWhole(double v)
 {
     const double whole = R(v);
     if (!(whole >= std::numeric_limits<Int>::min() && whole <= std::numeric_limits<Int>::max()))
-        throw ListError(
-            ListErrorCode::Overflow,
-            QStringLiteral("Overflow: %1 does not fit %2 bits").arg(v).arg(sizeof(Int) * 8));
+        throw ListError(ListErrorCode::Overflow);
     return static_cast<Int>(whole);
 }
 

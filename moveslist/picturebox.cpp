@@ -155,8 +155,7 @@ void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPo
         pixelRect(sourceAt, sourceAt + QPointF(sourceSize.width(), sourceSize.height()));
     const QRect sourceRect(QPoint(0, 0), source.deviceIndependentSize().toSize());
     if (source.isNull() || !sourceRect.contains(from))
-        throw ListError(ListErrorCode::InvalidPicture,
-                        QStringLiteral("Invalid picture: the picture has no such part"));
+        throw ListError(ListErrorCode::InvalidPicture);
     const QRect to = pixelRect(at, at + QPointF(size.width(), size.height()));
     QPainter painter(&m_canvas);
     painter.setCompositionMode(rasterCode == SourceAnd ? QPainter::RasterOp_SourceAndDestination

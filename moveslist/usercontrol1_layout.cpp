@@ -95,8 +95,7 @@ void UserControl1::FirstItemSetup()
 void UserControl1::FitRows()
 {
     if (m_state.RowTwips == 0)
-        throw ListError(ListErrorCode::DivisionByZero,
-                        QStringLiteral("Division by zero: RowHeight is 0"));
+        throw ListError(ListErrorCode::DivisionByZero);
     const int32_t rows = m_state.ViewHeight / m_state.RowTwips;
     const auto twips = static_cast<float>(screenTwipsX());
     float h = float(rows) * float(m_state.RowTwips) + twips * 24 / 12;
@@ -160,8 +159,7 @@ void UserControl1::RowHeight(const AnyValue& New_RowHeight)
 {
     const int32_t rowTwips = to32(New_RowHeight.toNumberStrict());
     if (rowTwips < 1)
-        throw ListError(ListErrorCode::InvalidPropertyValue,
-                        QStringLiteral("Invalid property value: RowHeight must be 1 or more"));
+        throw ListError(ListErrorCode::InvalidPropertyValue);
     m_state.RowHeightValue = New_RowHeight;
     m_state.RowTwips = rowTwips;
     FitRows();
@@ -186,9 +184,7 @@ void UserControl1::DropDownHeight(int16_t New_DropDownHeight)
 void UserControl1::setScrollValue(int value)
 {
     if (value < VScroll1->minimum() || value > VScroll1->maximum())
-        throw ListError(
-            ListErrorCode::InvalidPropertyValue,
-            QStringLiteral("Invalid property value: %1 is outside the scroll bar").arg(value));
+        throw ListError(ListErrorCode::InvalidPropertyValue);
     VScroll1->setValue(value);
 }
 

@@ -15,8 +15,7 @@ namespace {
 double divide(double a, double b)
 {
     if (b == 0)
-        throw ListError(ListErrorCode::DivisionByZero,
-                        QStringLiteral("Division by zero: the rows have not been measured"));
+        throw ListError(ListErrorCode::DivisionByZero);
     return a / b;
 }
 
@@ -141,7 +140,6 @@ void UserControl1::InvertRowStrip(int16_t row)
 void UserControl1::loadRowPicture(double index)
 {
     if (!m_state.PictureListRef)
-        throw ListError(ListErrorCode::ObjectNotSet,
-                        QStringLiteral("Object variable not set: DrawStyle 1 needs a PictureList"));
+        throw ListError(ListErrorCode::ObjectNotSet);
     Picture2->Picture(m_state.PictureListRef->ListImages(to16(index)).Picture);
 }

@@ -220,8 +220,7 @@ int16_t UserControl1::BorderStyle() const
 void UserControl1::BorderStyle(int16_t New_BorderStyle)
 {
     if (New_BorderStyle != 0 && New_BorderStyle != 1)
-        throw ListError(ListErrorCode::InvalidPropertyValue,
-                        QStringLiteral("Invalid property value: BorderStyle is 0 or 1"));
+        throw ListError(ListErrorCode::InvalidPropertyValue);
     applySurfaceBorder(New_BorderStyle);
     emit propertyChanged(QStringLiteral("BorderStyle"));
 }

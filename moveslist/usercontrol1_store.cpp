@@ -225,10 +225,8 @@ AnyValue UserControl1::ListCount() const
 void UserControl1::ListCount(const AnyValue&)
 {
     if (m_inDesign)
-        throw ListError(ListErrorCode::NotAtDesignTime,
-                        QStringLiteral("'Set' not permitted: ListCount is read-only"));
-    throw ListError(ListErrorCode::NotAtRunTime,
-                    QStringLiteral("'Set' not supported at run time: ListCount is read-only"));
+        throw ListError(ListErrorCode::NotAtDesignTime);
+    throw ListError(ListErrorCode::NotAtRunTime);
 }
 
 AnyValue UserControl1::text() const
@@ -251,8 +249,7 @@ AnyValue UserControl1::ListIndex() const
 void UserControl1::ListIndex(const AnyValue& New_ListIndex)
 {
     if (m_inDesign)
-        throw ListError(ListErrorCode::NotAtDesignTime,
-                        QStringLiteral("'Set' not permitted: ListIndex at design time"));
+        throw ListError(ListErrorCode::NotAtDesignTime);
     m_state.ListIndexStore = New_ListIndex;
     emit propertyChanged(QStringLiteral("ListIndex"));
 }

@@ -231,7 +231,8 @@ bool ListTrace::perform(const QString& line)
                 (m_list && (call(verb, args) || input(verb, args) || inspect(verb, args)));
     } catch (const ListError& error) {
         known = true;
-        say(QStringLiteral("error %1").arg(error.code()));
+        // The code, and what the host is told with it.
+        say(QStringLiteral("error %1 %2").arg(error.code()).arg(QString::fromUtf8(error.what())));
     } catch (const std::exception& failure) {
         known = true;
         say(QStringLiteral("failure %1").arg(QString::fromUtf8(failure.what())));
