@@ -151,17 +151,25 @@ void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPo
                               QSizeF sourceSize, uint32_t rasterCode)
 {
     syncImage();
+    if (source.isNull())
+        throw ListError(ListErrorCode::InvalidPicture);
     const QRect from =
         pixelRect(sourceAt, sourceAt + QPointF(sourceSize.width(), sourceSize.height()));
-    const QRect sourceRect(QPoint(0, 0), source.deviceIndependentSize().toSize());
-    if (source.isNull() || !sourceRect.contains(from))
-        throw ListError(ListErrorCode::InvalidPicture);
     const QRect to = pixelRect(at, at + QPointF(size.width(), size.height()));
+    // Only the part of the asked rectangle that the picture holds is painted, where it
+    // falls in the destination; the rest of the row stays as it was.
+    const QRect part =
+        from.intersected(QRect(QPoint(0, 0), source.deviceIndependentSize().toSize()));
+    if (part.isEmpty() || from.isEmpty() || to.isEmpty())
+        return;
+    const double sx = double(to.width()) / from.width(), sy = double(to.height()) / from.height();
+    const QRectF target(to.x() + (part.x() - from.x()) * sx, to.y() + (part.y() - from.y()) * sy,
+                        part.width() * sx, part.height() * sy);
     QPainter painter(&m_canvas);
     painter.setCompositionMode(rasterCode == SourceAnd ? QPainter::RasterOp_SourceAndDestination
                                                        : QPainter::CompositionMode_Source);
-    painter.drawImage(QRectF(to), source, deviceRect(from, source.devicePixelRatio()));
-    drawn(to);
+    painter.drawImage(target, source, deviceRect(part, source.devicePixelRatio()));
+    drawn(target.toAlignedRect());
 }
 
 void PictureBox::BitBlt(int x, int y, int width, int height, const PictureBox& source, int sourceX,

@@ -57,8 +57,9 @@ public:
     void Line(double y, double fromX, double toX, int32_t colour);
     // A filled box from one corner to the other, under DrawMode.
     void filledBox(QPointF from, QPointF to, int32_t colour);
-    // Paints a part of a picture under a raster code. A null picture or a source
-    // part outside it fails with ListError 481.
+    // Paints a part of a picture under a raster code; where the part reaches past the
+    // picture, only what the picture holds is painted. A null picture fails with
+    // ListError 481.
     void PaintPicture(const QImage& picture, QPointF at, QSizeF size, QPointF sourceAt,
                       QSizeF sourceSize, uint32_t rasterCode);
     // Copies a block of pixels from another surface, source copy.
