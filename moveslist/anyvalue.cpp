@@ -3,6 +3,8 @@
 #include "moveslist/listerror.h"
 #include "moveslist/listnumbers.h"
 
+#include <cmath>
+
 double AnyValue::toNumber() const
 {
     if (const double* number = std::get_if<double>(&m_value))
@@ -12,14 +14,13 @@ double AnyValue::toNumber() const
     return 0;
 }
 
+// NaN and the infinities are no numbers the list can take, as a text or as a number.
 double AnyValue::toNumberStrict() const
 {
     const QString* text = std::get_if<QString>(&m_value);
-    if (!text)
-        return toNumber();
-    bool ok = false;
-    const double number = text->trimmed().toDouble(&ok);
-    if (!ok)
+    bool ok = true;
+    const double number = text ? text->trimmed().toDouble(&ok) : toNumber();
+    if (!ok || !std::isfinite(number))
         throw ListError(ListErrorCode::TypeMismatch);
     return number;
 }

@@ -69,8 +69,6 @@ qint64 padded(qint64 size)
 qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
 {
     switch (entry.type) {
-    case PropertyType::Empty:
-        return 0;
     case PropertyType::Integer:
         entry.value = in.number<int16_t>(at);
         return 2;
@@ -80,9 +78,6 @@ qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
     case PropertyType::Single:
         entry.value = in.number<float>(at);
         return 4;
-    case PropertyType::Double:
-        entry.value = in.number<double>(at);
-        return 8;
     case PropertyType::Text: {
         const auto characters = static_cast<qint64>(in.number<uint32_t>(at));
         in.need(at + 4, characters * 2 + 2);
@@ -103,11 +98,9 @@ qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
 bool knownType(int16_t type)
 {
     switch (static_cast<PropertyType>(type)) {
-    case PropertyType::Empty:
     case PropertyType::Integer:
     case PropertyType::Long:
     case PropertyType::Single:
-    case PropertyType::Double:
     case PropertyType::Text:
     case PropertyType::Object:
         return true;
@@ -198,16 +191,15 @@ void appendValue(QByteArray& out, const PropertyEntry& entry)
 {
     const double number = entry.value.toNumber();
     switch (entry.type) {
-    case PropertyType::Empty:
-        return;
     case PropertyType::Integer:
         return append<int16_t>(out, moveslist::to16(number));
     case PropertyType::Long:
         return append<int32_t>(out, moveslist::to32(number));
     case PropertyType::Single:
+        // A number a single cannot hold is an overflow, not an infinity.
+        if (!(std::abs(number) <= std::numeric_limits<float>::max()))
+            throw ListError(ListErrorCode::Overflow);
         return append<float>(out, static_cast<float>(number));
-    case PropertyType::Double:
-        return append<double>(out, number);
     case PropertyType::Text: {
         const QString text = entry.value.toText();
         append<uint32_t>(out, static_cast<uint32_t>(text.size()));

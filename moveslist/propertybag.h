@@ -8,21 +8,19 @@
 #include <cstdint>
 #include <vector>
 
-// How a stored value is held. Booleans travel as Integer, -1 for True. Empty and
-// Double only come up for the "any value" properties.
+// How a stored value is held; no other type reaches a block. Booleans travel as
+// Integer, -1 for True.
 enum class PropertyType : int16_t {
-    Empty = 0,
     Integer = 2,
     Long = 3,
     Single = 4,
-    Double = 5,
     Text = 8,
     Object = 13,
 };
 
 struct PropertyEntry {
     QString key; // lower case, as stored
-    PropertyType type = PropertyType::Empty;
+    PropertyType type = PropertyType::Integer;
     AnyValue value;        // numbers and texts
     QByteArray objectData; // Object entries only
     uint32_t hash = 0;

@@ -72,8 +72,9 @@ UserControl1* UserControl1::fromBlock(const QByteArray& block, QWidget* parent)
     const double height = bag.readProperty(QStringLiteral("_ExtentY"), {}).toNumber();
     if (width > 0 && height > 0) {
         const double twipsPerExtent = 1440.0 / 2540.0;
-        list->resize(int(R(width * twipsPerExtent / list->screenTwipsX())),
-                     int(R(height * twipsPerExtent / list->screenTwipsY())));
+        // Pixels that no widget can have are an overflow, as for any number too large.
+        list->resize(moveslist::to32(width * twipsPerExtent / list->screenTwipsX()),
+                     moveslist::to32(height * twipsPerExtent / list->screenTwipsY()));
         if (list->size() != list->m_laidOutSize)
             list->UserControl_Resize();
     }

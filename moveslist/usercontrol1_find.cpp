@@ -53,19 +53,20 @@ AnyValue UserControl1::Find(int16_t sdir, int16_t it, const QString& ftext, int1
 void UserControl1::ShowItem(const AnyValue& i)
 {
     const double n = i.toNumberStrict();
-    if (n < 1 || n > m_state.ItemCount)
+    if (!(n >= 1 && n <= m_state.ItemCount))
         return;
-    const auto item = static_cast<int32_t>(R(n));
-    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(item)]);
+    // The entry is whole; the chosen index and the bar's value take the number as given,
+    // the bar bringing it to a whole value.
+    m_state.ItemColumns = col::Split(m_state.Items[static_cast<size_t>(R(n))]);
     Text1->setText(col::column(m_state.ItemColumns, col::Text));
-    ChosenIndex(moveslist::numberText(item - 1));
+    ChosenIndex(moveslist::numberText(n - 1));
     if (m_state.SelectedRow != -1)
         InvertRowStrip(to16(m_state.SelectedRow));
     if (m_state.ComboMode == 1 && Picture1->isHidden()) {
         OpenDropDown();
         Picture1->setFocus();
     }
-    setScrollValue(item - 1);
+    setScrollValue(static_cast<int>(R(n - 1)));
     InvertRowStrip(0);
     m_state.SelectedRow = 0;
 }

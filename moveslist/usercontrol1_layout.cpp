@@ -155,12 +155,13 @@ AnyValue UserControl1::RowHeight() const
 }
 
 // Only the row measures move: the canvas keeps its height and nothing is repainted.
+// The value is kept first, as given; a value that makes no row height fails after that.
 void UserControl1::RowHeight(const AnyValue& New_RowHeight)
 {
+    m_state.RowHeightValue = New_RowHeight;
     const int32_t rowTwips = to32(New_RowHeight.toNumberStrict());
     if (rowTwips < 1)
         throw ListError(ListErrorCode::InvalidPropertyValue);
-    m_state.RowHeightValue = New_RowHeight;
     m_state.RowTwips = rowTwips;
     FitRows();
     emit propertyChanged(QStringLiteral("RowHeight"));

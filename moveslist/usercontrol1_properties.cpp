@@ -42,23 +42,20 @@ AnyValue readAny(const PropertyBag& bag, const char* key)
     return bag.readProperty(QLatin1String(key), 0);
 }
 
-// An "any value" is stored in the narrowest form that holds it.
+// An "any value" is stored in the narrowest form that holds it: a whole number in 16
+// or 32 bits, any other number as a single.
 PropertyType typeOf(const AnyValue& value)
 {
-    if (value.isEmpty())
-        return PropertyType::Empty;
     if (value.isText())
         return PropertyType::Text;
     const double number = value.toNumber();
-    if (number != std::trunc(number))
-        return PropertyType::Double;
-    if (number >= std::numeric_limits<int16_t>::min() &&
+    if (number == std::trunc(number) && number >= std::numeric_limits<int16_t>::min() &&
         number <= std::numeric_limits<int16_t>::max())
         return PropertyType::Integer;
-    if (number >= std::numeric_limits<int32_t>::min() &&
+    if (number == std::trunc(number) && number >= std::numeric_limits<int32_t>::min() &&
         number <= std::numeric_limits<int32_t>::max())
         return PropertyType::Long;
-    return PropertyType::Double;
+    return PropertyType::Single;
 }
 
 void write(PropertyBag& bag, const char* key, PropertyType type, const AnyValue& value,
@@ -67,9 +64,11 @@ void write(PropertyBag& bag, const char* key, PropertyType type, const AnyValue&
     bag.writeProperty(QLatin1String(key), type, value, defaultValue);
 }
 
+// A store that never received a value is left out: the block has no empty type.
 void writeAny(PropertyBag& bag, const char* key, const AnyValue& value)
 {
-    bag.writeProperty(QLatin1String(key), typeOf(value), value, 0);
+    if (!value.isEmpty())
+        bag.writeProperty(QLatin1String(key), typeOf(value), value, 0);
 }
 
 } // namespace
@@ -100,7 +99,11 @@ void UserControl1::UserControl_ReadProperties(const PropertyBag& PropBag)
         pictures.isEmpty() ? nullptr : std::make_shared<ImageList>(ImageList::load(pictures));
     m_state.ListCountStore = readAny(PropBag, "ListCount");
     m_state.GridLinesValue = flag(readFlag(PropBag, "GridLines"));
-    applySurfaceBorder(read16(PropBag, "BorderStyle", 1));
+    // What a setter would refuse is refused on load, with the setter's code.
+    const int16_t border = read16(PropBag, "BorderStyle", 1);
+    if (border != 0 && border != 1)
+        throw ListError(ListErrorCode::InvalidPropertyValue);
+    applySurfaceBorder(border);
     m_state.ModeValue = read16(PropBag, "Mode", 0);
     m_state.SelectedRow = -1;
     m_state.NextRowTop = 0;
@@ -110,6 +113,9 @@ void UserControl1::UserControl_ReadProperties(const PropertyBag& PropBag)
     m_state.GridLinesOn = m_state.GridLinesValue != 0 ? 1 : 0;
     m_state.DropDownHeightValue = read16(PropBag, "DropDownHeight", 0);
     m_state.RowHeightValue = readAny(PropBag, "RowHeight");
+    if (PropBag.find(QStringLiteral("RowHeight")) &&
+        !(m_state.RowHeightValue.toNumberStrict() >= 1))
+        throw ListError(ListErrorCode::InvalidPropertyValue);
     m_state.ListStore = readAny(PropBag, "List");
     m_state.TextStore = readAny(PropBag, "Text");
     m_state.ListIndexStore = readAny(PropBag, "ListIndex");

@@ -160,10 +160,12 @@ void UserControl1::RemoveItem(const AnyValue& it)
 
 // The entry of the 0-based index `it`, or 0 when it names no item: an index out of
 // range is ignored by every member that takes one.
+// The range is tested on the index as given, plus one, and only then brought to a whole
+// entry: 1.4 on a list of two items names no item.
 int32_t UserControl1::entryOf(const AnyValue& it) const
 {
-    const double n = R(it.toNumberStrict()) + 1;
-    return n >= 1 && n <= m_state.ItemCount ? static_cast<int32_t>(n) : 0;
+    const double n = it.toNumberStrict() + 1;
+    return n >= 1 && n <= m_state.ItemCount ? static_cast<int32_t>(R(n)) : 0;
 }
 
 // Keeps what is drawn on the rows' way out: the row measures, the font name, the

@@ -134,16 +134,12 @@ QString sizeOf(const QWidget* w)
 const char* PropertyTypeName(PropertyType type)
 {
     switch (type) {
-    case PropertyType::Empty:
-        return "empty";
     case PropertyType::Integer:
         return "integer";
     case PropertyType::Long:
         return "long";
     case PropertyType::Single:
         return "single";
-    case PropertyType::Double:
-        return "double";
     case PropertyType::Text:
         return "text";
     case PropertyType::Object:
@@ -265,6 +261,22 @@ bool ListTrace::setUp(const QString& verb, const QList<QString>& args)
         setUpMovesLog(*m_list);
     } else if (verb == QLatin1String("new")) {
         adopt(new UserControl1);
+    } else if (verb == QLatin1String("loadwith")) {
+        // A block of the given entries, each KEY TYPE VALUE (integer, long, single, text).
+        PropertyBag bag;
+        for (int i = 0; i + 2 < args.size(); i += 3) {
+            const QString type = args[i + 1];
+            const PropertyType kind = type == QLatin1String("long")     ? PropertyType::Long
+                                      : type == QLatin1String("single") ? PropertyType::Single
+                                      : type == QLatin1String("text")   ? PropertyType::Text
+                                                                        : PropertyType::Integer;
+            bag.add({textOf(args[i]).toLower(),
+                     kind,
+                     valueOf(args[i + 2]),
+                     {},
+                     PropertyBag::keyHash(textOf(args[i]))});
+        }
+        adopt(UserControl1::fromBlock(lbblock::write(bag)));
     } else if (verb == QLatin1String("reload")) {
         if (!m_list)
             return false;
