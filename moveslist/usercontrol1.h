@@ -202,6 +202,7 @@ private:
     void commitTopItem(int16_t KeyCode, int16_t Shift);
     void dropHighlight();
     void keyTail(int step, int16_t KeyCode, int16_t Shift);
+    void keyScrollTo(int value);
     void raiseKeyDown(int16_t KeyCode, int16_t Shift);
     void raiseKeyUp(int16_t KeyCode, int16_t Shift);
 

@@ -46,8 +46,9 @@ void UserControl1::CloseDropDown()
     setControlHeight(childHeight(Text1));
 }
 
-// The control grows over what its host placed below the head, and is raised above
-// those widgets so that the list part is seen.
+// The control grows down over what its host placed below the head. Its place among the
+// host's widgets is the host's matter: a host stacks it above what the list part must
+// cover.
 void UserControl1::OpenDropDown()
 {
     const float height = float(m_state.ViewHeight) + float(childHeight(Text1)) +
@@ -57,7 +58,6 @@ void UserControl1::OpenDropDown()
     setChildHeight(VScroll1, childHeight(Picture1));
     Picture1->show();
     VScroll1->show();
-    raise();
 }
 
 // Every opening paints from item 1 and leaves the scroll bar where it was: after an

@@ -76,20 +76,17 @@ bool UserControl1::picture1Event(QEvent* event)
     }
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
-        // Tab moves the focus on, as it does everywhere else.
-        if (isTab(*key))
-            return false;
         int16_t KeyCode = keyNumber(*key);
         int16_t Shift = shiftNumber(key->modifiers());
         guarded([&] { Picture1_KeyDown(KeyCode, Shift); });
         if (std::optional<int16_t> ascii = keyAscii(*key))
             guarded([&] { Picture1_KeyPress(*ascii); });
-        return true;
+        // Tab is a key like any other for the host, as on the head, and then moves the
+        // focus on as it does everywhere.
+        return !isTab(*key);
     }
     case QEvent::KeyRelease: {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (isTab(*key))
-            return false;
         // A held key goes down again and again, and comes up once.
         if (key->isAutoRepeat())
             return true;
@@ -98,9 +95,14 @@ bool UserControl1::picture1Event(QEvent* event)
         guarded([&] { Picture1_KeyUp(KeyCode, Shift); });
         return true;
     }
-    case QEvent::FocusOut:
-        guarded([&] { Picture1_LostFocus(); });
+    case QEvent::FocusOut: {
+        // Another window taking over, or a pop-up, is no loss to another control: the
+        // open list part stays open until the focus goes elsewhere in this window.
+        const Qt::FocusReason why = static_cast<QFocusEvent*>(event)->reason();
+        if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason)
+            guarded([&] { Picture1_LostFocus(); });
         return false;
+    }
     default:
         return false;
     }

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include <algorithm>
+
 using moveslist::to16;
 
 namespace col = itemrecord;
@@ -35,11 +37,11 @@ void UserControl1::Picture1_KeyDown(int16_t& KeyCode, int16_t& Shift)
             return;
         break;
     case key::Home:
-        setScrollValue(0);
+        keyScrollTo(0);
         break;
     case key::End:
         // The last item alone on the first row.
-        setScrollValue(m_state.ItemCount - 1);
+        keyScrollTo(m_state.ItemCount - 1);
         break;
     default:
         break;
@@ -99,10 +101,17 @@ void UserControl1::keyTail(int step, int16_t KeyCode, int16_t Shift)
         return;
     }
     const int v = VScroll1->value();
-    setScrollValue(v + step);
+    keyScrollTo(v + step);
     m_state.SelectedRow = 0;
     InvertRowStrip(0);
     raiseKeyDown(KeyCode, Shift);
+}
+
+// No key takes the position outside the bar's range, which is 0 to 0 on an empty list
+// and after Mode 0 until the next item: the key's other steps go on as they are.
+void UserControl1::keyScrollTo(int value)
+{
+    setScrollValue(std::clamp(value, VScroll1->minimum(), VScroll1->maximum()));
 }
 
 void UserControl1::raiseKeyDown(int16_t KeyCode, int16_t Shift)

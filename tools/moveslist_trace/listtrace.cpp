@@ -294,6 +294,24 @@ bool ListTrace::setUp(const QString& verb, const QList<QString>& args)
             say(QStringLiteral("not exposed"));
         // The pointer starts off the list.
         QCursor::setPos(m_list->mapToGlobal(QPoint(-50, -50)));
+    } else if (verb == QLatin1String("raise") && m_list) {
+        // The host puts the list above its other widgets.
+        m_list->raise();
+    } else if (verb == QLatin1String("away") && m_list) {
+        // Another window of the program takes the activation, and gives it back with
+        // "back".
+        m_away = std::make_unique<QWidget>();
+        m_away->resize(100, 100);
+        m_away->show();
+        QApplication::setActiveWindow(m_away.get());
+        if (!QTest::qWaitForWindowActive(m_away.get()))
+            say(QStringLiteral("not active"));
+    } else if (verb == QLatin1String("back") && m_list) {
+        QWidget* top = m_host ? m_host.get() : static_cast<QWidget*>(m_list.get());
+        QApplication::setActiveWindow(top);
+        if (!QTest::qWaitForWindowActive(top))
+            say(QStringLiteral("not active"));
+        m_away.reset();
     } else if (verb == QLatin1String("resize") && m_list) {
         m_list->resize(int(numberOf(args.value(0))), int(numberOf(args.value(1))));
     } else if (verb == QLatin1String("font") && m_list) {

@@ -47,6 +47,7 @@ private:
 
     std::ostream& m_out;
     std::unique_ptr<QWidget> m_host;
+    std::unique_ptr<QWidget> m_away;
     QPushButton* m_below = nullptr;
     QPushButton* m_elsewhere = nullptr;
     std::unique_ptr<UserControl1> m_list;
