@@ -32,9 +32,10 @@ class QScrollBar;
 // Writing the scroll bar's value or the control's height runs VScroll1_Change or
 // UserControl_Resize inside that write; Additem relies on that order.
 //
-// In drop-down mode (Mode 1) the control opens by making itself taller and raising
-// itself over what its host placed below the head: the host positions it by hand, not
-// in a layout that would take the height back, and leaves room in the parent.
+// In drop-down mode (Mode 1) the control opens by making itself taller, over what its
+// host placed below the head: the host positions it by hand, not in a layout that
+// would take the height back, leaves room in the parent, and stacks it above the
+// widgets its open list must cover (its place among them is the host's).
 class UserControl1 : public QWidget {
     Q_OBJECT
     friend class ListProbe;
