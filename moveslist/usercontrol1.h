@@ -246,6 +246,7 @@ private:
 
     // Layout and scrolling.
     void UserControl_Resize();
+    void settleSize();
     void VScroll1_Change();
     void FirstItemSetup();
     void FitRows();

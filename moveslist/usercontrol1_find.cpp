@@ -52,6 +52,7 @@ AnyValue UserControl1::Find(int16_t sdir, int16_t it, const QString& ftext, int1
 // position is not held back to keep the view full.
 void UserControl1::ShowItem(const AnyValue& i)
 {
+    settleSize();
     const double n = i.toNumberStrict();
     if (!(n >= 1 && n <= m_state.ItemCount))
         return;

@@ -59,6 +59,15 @@ void UserControl1::UserControl_Resize()
         ignoringFailure([&] { setScrollValue(1); });
 }
 
+// A size a host set while the control was hidden is laid out before anything else
+// reaches the control, as it would have been inside that write: the platform runs the
+// layout at once, shown or not. A control never laid out waits to be shown.
+void UserControl1::settleSize()
+{
+    if (m_laidOutSize.isValid() && size() != m_laidOutSize)
+        UserControl_Resize();
+}
+
 // Value v puts item v + 1 on top; one row more than fits is drawn, below the canvas.
 void UserControl1::VScroll1_Change()
 {
@@ -113,6 +122,7 @@ int16_t UserControl1::Mode() const
 // Assigning Mode is what makes the list visible, even to the value it has.
 void UserControl1::Mode(int16_t New_Mode)
 {
+    settleSize();
     m_state.ModeValue = New_Mode;
     emit propertyChanged(QStringLiteral("Mode"));
     m_state.ComboMode = m_state.ModeValue;
@@ -158,6 +168,7 @@ AnyValue UserControl1::RowHeight() const
 // The value is kept first, as given; a value that makes no row height fails after that.
 void UserControl1::RowHeight(const AnyValue& New_RowHeight)
 {
+    settleSize();
     m_state.RowHeightValue = New_RowHeight;
     const int32_t rowTwips = to32(New_RowHeight.toNumberStrict());
     if (rowTwips < 1)
@@ -175,6 +186,7 @@ int16_t UserControl1::DropDownHeight() const
 // Nothing moves until Mode is assigned, so this comes first.
 void UserControl1::DropDownHeight(int16_t New_DropDownHeight)
 {
+    settleSize();
     m_state.DropDownHeightValue = New_DropDownHeight;
     m_state.ViewHeight = m_state.DropDownHeightValue;
     emit propertyChanged(QStringLiteral("DropDownHeight"));

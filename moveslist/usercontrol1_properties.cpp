@@ -155,6 +155,7 @@ bool UserControl1::Enabled() const
 // Kept and reported only: nothing in the list looks at it.
 void UserControl1::Enabled(bool New_Enabled)
 {
+    settleSize();
     m_state.EnabledValue = New_Enabled;
     emit propertyChanged(QStringLiteral("Enabled"));
 }
@@ -166,6 +167,7 @@ std::shared_ptr<ImageList> UserControl1::PictureList() const
 
 void UserControl1::PictureList(std::shared_ptr<ImageList> New_PictureList)
 {
+    settleSize();
     m_state.PictureListRef = std::move(New_PictureList);
     emit propertyChanged(QStringLiteral("PictureList"));
 }
@@ -178,6 +180,7 @@ QString UserControl1::Fontname() const
 
 void UserControl1::Fontname(const QString& New_Fontname)
 {
+    settleSize();
     Picture1->fontName(New_Fontname);
     emit propertyChanged(QStringLiteral("Fontname"));
 }
@@ -190,6 +193,7 @@ float UserControl1::FontSize() const
 
 void UserControl1::FontSize(float New_FontSize)
 {
+    settleSize();
     Picture1->FontSize(New_FontSize);
     emit propertyChanged(QStringLiteral("FontSize"));
 }
@@ -201,6 +205,7 @@ int32_t UserControl1::forecolor() const
 
 void UserControl1::forecolor(int32_t New_forecolor)
 {
+    settleSize();
     Picture1->foreColor(New_forecolor);
     emit propertyChanged(QStringLiteral("ForeColor"));
 }
@@ -212,6 +217,7 @@ bool UserControl1::GridLines() const
 
 void UserControl1::GridLines(bool New_GridLines)
 {
+    settleSize();
     m_state.GridLinesValue = flag(New_GridLines);
     m_state.GridLinesOn = New_GridLines ? 1 : 0;
     emit propertyChanged(QStringLiteral("GridLines"));
@@ -225,6 +231,7 @@ int16_t UserControl1::BorderStyle() const
 // Applies from the next layout pass on: nothing moves now.
 void UserControl1::BorderStyle(int16_t New_BorderStyle)
 {
+    settleSize();
     if (New_BorderStyle != 0 && New_BorderStyle != 1)
         throw ListError(ListErrorCode::InvalidPropertyValue);
     applySurfaceBorder(New_BorderStyle);
@@ -238,6 +245,7 @@ int16_t UserControl1::DrawStyle() const
 
 void UserControl1::DrawStyle(int16_t New_DrawStyle)
 {
+    settleSize();
     m_state.DrawStyleValue = New_DrawStyle;
     emit propertyChanged(QStringLiteral("DrawStyle"));
 }
@@ -250,6 +258,7 @@ int32_t UserControl1::BackColor() const
 // The canvas is wiped by its new colour and counts as unpainted; nothing is redrawn.
 void UserControl1::BackColor(int32_t New_BackColor)
 {
+    settleSize();
     applySurfaceBackColor(New_BackColor);
     Picture1->BackColor(New_BackColor);
     Picture3->BackColor(New_BackColor);
@@ -267,6 +276,7 @@ int32_t UserControl1::GridColor() const
 
 void UserControl1::GridColor(int32_t New_GridColor)
 {
+    settleSize();
     m_state.GridColorValue = New_GridColor;
     emit propertyChanged(QStringLiteral("GridColor"));
 }
@@ -278,6 +288,7 @@ bool UserControl1::ToolTip() const
 
 void UserControl1::ToolTip(bool New_ToolTip)
 {
+    settleSize();
     m_state.ToolTipOn = New_ToolTip;
     emit propertyChanged(QStringLiteral("ToolTip"));
 }

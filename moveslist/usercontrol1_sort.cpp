@@ -120,6 +120,7 @@ private:
 // the scroll position are not carried along.
 void UserControl1::SortAscending()
 {
+    settleSize();
     QuickSortUp(1, to16(m_state.ItemCount));
     forgetItems();
     DrawRows(m_state.TopRow, m_state.BottomRow);
@@ -127,6 +128,7 @@ void UserControl1::SortAscending()
 
 void UserControl1::SortDescending()
 {
+    settleSize();
     QuickSortDown(1, to16(m_state.ItemCount));
     forgetItems();
     DrawRows(m_state.TopRow, m_state.BottomRow);

@@ -29,6 +29,7 @@ void UserControl1::Additem(QString& s, int16_t itemx)
 void UserControl1::Additem(QString& s, int16_t itemx, int16_t& ipic, QString& ItemFont,
                            int32_t& ItemColor)
 {
+    settleSize();
     if (!ItemFont.isEmpty())
         m_state.ItemFontName = ItemFont;
     if (m_state.ItemFontName.isEmpty() && m_state.ItemCount == 0)
@@ -128,6 +129,7 @@ void UserControl1::setScrollMaximum(int32_t maximum)
 
 void UserControl1::RemoveItem(const AnyValue& it)
 {
+    settleSize();
     const int32_t n = entryOf(it);
     if (n == 0)
         return;
@@ -172,6 +174,7 @@ int32_t UserControl1::entryOf(const AnyValue& it) const
 // selection and the scroll bar all stay.
 void UserControl1::Clear()
 {
+    settleSize();
     forgetItems();
     Picture1->Cls();
     Picture3->Cls();
@@ -190,6 +193,7 @@ AnyValue UserControl1::GetItemData(const AnyValue& i) const
 
 void UserControl1::SetItemData(AnyValue it, const AnyValue& valuex)
 {
+    settleSize();
     if (it.toNumberStrict() == -1)
         it = moveslist::numericRead(LastAddedIndex());
     const int32_t n = entryOf(it);
@@ -215,6 +219,7 @@ AnyValue UserControl1::List(const AnyValue& it) const
 // Stores only, whatever `it` says: no item is touched.
 void UserControl1::List(const AnyValue&, const AnyValue& New_List)
 {
+    settleSize();
     m_state.ListStore = New_List;
     emit propertyChanged(QStringLiteral("List"));
 }
@@ -238,6 +243,7 @@ AnyValue UserControl1::text() const
 
 void UserControl1::text(const AnyValue& New_text)
 {
+    settleSize();
     m_state.TextStore = New_text;
     emit propertyChanged(QStringLiteral("Text"));
 }
@@ -250,6 +256,7 @@ AnyValue UserControl1::ListIndex() const
 
 void UserControl1::ListIndex(const AnyValue& New_ListIndex)
 {
+    settleSize();
     if (m_inDesign)
         throw ListError(ListErrorCode::NotAtDesignTime);
     m_state.ListIndexStore = New_ListIndex;

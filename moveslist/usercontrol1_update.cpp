@@ -41,6 +41,7 @@ void UserControl1::UpdateForeColor(const AnyValue& it, int32_t fc)
 void UserControl1::updateColumn(const AnyValue& it, int column,
                                 const std::function<QString()>& newColumn)
 {
+    settleSize();
     const int16_t item = to16(it.toNumberStrict() + 1);
     if (item > m_state.ItemCount || item < 1)
         return;

@@ -294,6 +294,8 @@ bool ListTrace::setUp(const QString& verb, const QList<QString>& args)
             say(QStringLiteral("not exposed"));
         // The pointer starts off the list.
         QCursor::setPos(m_list->mapToGlobal(QPoint(-50, -50)));
+    } else if (verb == QLatin1String("hide") && m_list) {
+        m_list->hide();
     } else if (verb == QLatin1String("raise") && m_list) {
         // The host puts the list above its other widgets.
         m_list->raise();
