@@ -163,6 +163,63 @@ void BM_QListWidgetFindHoldsB(benchmark::State& state)
     widgetFind(state, HoldsB);
 }
 
+// Long runs of plain characters between stars, case counting, none of them found: a
+// run of n a's looked for in texts of a's only, or in texts whose runs of a's are one
+// short of it. Each is measured beside QListWidget::findItems with a case-sensitive
+// wildcard, Qt's compiled regular expression.
+QStringList runsOfA(int count, int length, int every)
+{
+    QStringList texts;
+    QString text(length, QLatin1Char('a'));
+    if (every > 0)
+        for (int i = every - 1; i < length; i += every)
+            text[i] = QLatin1Char('b');
+    for (int i = 0; i < count; ++i)
+        texts << text;
+    return texts;
+}
+
+struct FindWork {
+    QString pattern;
+    QStringList texts;
+};
+
+const FindWork& findWork(int row)
+{
+    static const FindWork work[] = {
+        {QStringLiteral("*") + QString(1000, QLatin1Char('a')) + QStringLiteral("[b]*"),
+         runsOfA(10, 100000, 0)},
+        {QStringLiteral("*") + QString(5000, QLatin1Char('a')) + QStringLiteral("[b]*"),
+         runsOfA(10, 100000, 0)},
+        {QStringLiteral("*") + QString(1000, QLatin1Char('a')) + QStringLiteral("*"),
+         runsOfA(10, 100000, 1000)},
+        {QStringLiteral("*") + QString(200, QLatin1Char('a')) + QStringLiteral("*"),
+         runsOfA(32767, 200, 200)},
+    };
+    return work[row];
+}
+
+void BM_ListFindLongRun(benchmark::State& state)
+{
+    const FindWork& work = findWork(int(state.range(0)));
+    auto list = filledList(work.texts);
+    for (auto _ : state)
+        if (!(list->Find(0, 0, work.pattern, 1) == AnyValue(0)))
+            return state.SkipWithError("an item was found");
+}
+
+void BM_QListWidgetFindLongRun(benchmark::State& state)
+{
+    const FindWork& work = findWork(int(state.range(0)));
+    QListWidget list;
+    list.addItems(work.texts);
+    for (auto _ : state)
+        if (!list.findItems(work.pattern, Qt::MatchWildcard | Qt::MatchCaseSensitive).isEmpty())
+            return state.SkipWithError("an item was found");
+}
+
+BENCHMARK(BM_ListFindLongRun)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_QListWidgetFindLongRun)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ListSortRandomTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(BM_QListWidgetSortRandomTexts)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(BM_ListSortIdenticalTexts)->Unit(benchmark::kMillisecond)->Iterations(10);

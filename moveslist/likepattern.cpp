@@ -44,10 +44,61 @@ LikePattern::LikePattern(const QString& pattern)
             m_firstStar = std::min(m_firstStar, t);
             m_lastStar = t;
         }
-        const bool known = std::find(m_requiredUnits.begin(), m_requiredUnits.end(),
-                                     m_tokens[t].unit) != m_requiredUnits.end();
-        if (m_tokens[t].kind == Kind::Char && !known && m_requiredUnits.size() < MaxRequiredUnits)
-            m_requiredUnits.push_back(m_tokens[t].unit);
+        // A plain character, or a list of one character, must be in the subject.
+        const Token& token = m_tokens[t];
+        const bool single = token.kind == Kind::List && !token.negated &&
+                            token.ranges.size() == 1 && token.ranges[0].low == token.ranges[0].high;
+        const char16_t unit = single ? token.ranges[0].low : token.unit;
+        const bool known = std::find(m_requiredUnits.begin(), m_requiredUnits.end(), unit) !=
+                           m_requiredUnits.end();
+        if ((token.kind == Kind::Char || single) && !known &&
+            m_requiredUnits.size() < MaxRequiredUnits)
+            m_requiredUnits.push_back(unit);
+    }
+    buildSegments();
+}
+
+// The runs of tokens between the first and the last star, as automata.
+void LikePattern::buildSegments()
+{
+    if (m_firstStar == m_tokens.size())
+        return;
+    for (size_t t = m_firstStar + 1; t <= m_lastStar;) {
+        size_t end = t;
+        while (end < m_lastStar && m_tokens[end].kind != Kind::Star)
+            ++end;
+        if (end > t) {
+            Segment segment;
+            segment.first = t;
+            segment.length = end - t;
+            segment.words = (segment.length + 63) / 64;
+            segment.any.assign(segment.words, 0);
+            segment.digit.assign(segment.words, 0);
+            segment.ascii.assign(128 * segment.words, 0);
+            for (size_t j = 0; j < segment.length; ++j) {
+                const Token& token = m_tokens[t + j];
+                const size_t word = j / 64;
+                const uint64_t bit = uint64_t(1) << (j % 64);
+                if (token.kind == Kind::Any) {
+                    segment.any[word] |= bit;
+                } else if (token.kind == Kind::Digit) {
+                    segment.digit[word] |= bit;
+                } else if (token.kind == Kind::List) {
+                    segment.lists.push_back(t + j);
+                } else if (token.unit < 128) {
+                    segment.ascii[token.unit * segment.words + word] |= bit;
+                } else {
+                    auto found = std::find_if(segment.wide.begin(), segment.wide.end(),
+                                              [&](const auto& w) { return w.first == token.unit; });
+                    if (found == segment.wide.end())
+                        found = segment.wide.insert(
+                            segment.wide.end(), {token.unit, std::vector<uint64_t>(segment.words)});
+                    found->second[word] |= bit;
+                }
+            }
+            m_segments.push_back(std::move(segment));
+        }
+        t = end + 1;
     }
 }
 
@@ -135,34 +186,64 @@ bool LikePattern::matches(QStringView subject, bool upperCase) const
         subject.mid(qsizetype(m_firstStar), qsizetype(n - tailLength - m_firstStar)), upperCase);
 }
 
-// Every token but the star takes exactly one character, so a failure after a star
-// only ever needs that star to take one character more: going back to earlier stars
-// could not find a match the last one misses.
+// Every token but the star takes exactly one character, so each run between two stars
+// is best placed leftmost after the run before it: a later place can only leave less
+// room to the runs that follow.
 bool LikePattern::matchesBetweenStars(QStringView middle, bool upperCase) const
 {
-    const size_t end = m_lastStar + 1;
-    size_t t = m_firstStar;
-    qsizetype s = 0;
-    size_t star = end;
-    qsizetype starAt = 0;
-    while (s < middle.size()) {
-        const char16_t unit = upperCase ? upperUnit(middle[s].unicode()) : middle[s].unicode();
-        if (t < end && m_tokens[t].kind == Kind::Star) {
-            star = t++;
-            starAt = s;
-        } else if (t < end && accepts(m_tokens[t], unit)) {
-            ++t;
-            ++s;
-        } else if (star < end) {
-            t = star + 1;
-            s = ++starAt;
-        } else {
+    std::vector<uint64_t> state, mask;
+    qsizetype from = 0;
+    for (const Segment& segment : m_segments) {
+        from = findSegment(segment, middle, from, upperCase, state, mask);
+        if (from < 0)
             return false;
-        }
     }
-    while (t < end && m_tokens[t].kind == Kind::Star)
-        ++t;
-    return t == end;
+    return true;
+}
+
+// Shift-and: after reading a unit, bit j of the state is set when the segment's first
+// j + 1 tokens match the units read last. Gives the place just past the leftmost match
+// from `from` on, or -1.
+qsizetype LikePattern::findSegment(const Segment& segment, QStringView subject, qsizetype from,
+                                   bool upperCase, std::vector<uint64_t>& state,
+                                   std::vector<uint64_t>& mask) const
+{
+    const size_t words = segment.words;
+    const size_t lastWord = (segment.length - 1) / 64;
+    const uint64_t lastBit = uint64_t(1) << ((segment.length - 1) % 64);
+    state.assign(words, 0);
+    mask.resize(words);
+    // Only the words up to the highest one holding a bit, and the one above it, can
+    // change: a long run of tokens costs in step with how far a match has got.
+    size_t live = 0;
+    for (qsizetype s = from; s < subject.size(); ++s) {
+        const char16_t unit = upperCase ? upperUnit(subject[s].unicode()) : subject[s].unicode();
+        const bool digit = unit >= u'0' && unit <= u'9';
+        const size_t reach = std::min(words, live + 1);
+        for (size_t w = 0; w < reach; ++w)
+            mask[w] = segment.any[w] | (digit ? segment.digit[w] : 0) |
+                      (unit < 128 ? segment.ascii[unit * words + w] : 0);
+        if (unit >= 128)
+            for (const auto& [wide, bits] : segment.wide)
+                if (wide == unit)
+                    for (size_t w = 0; w < reach; ++w)
+                        mask[w] |= bits[w];
+        for (const size_t t : segment.lists)
+            if ((t - segment.first) / 64 < reach && accepts(m_tokens[t], unit))
+                mask[(t - segment.first) / 64] |= uint64_t(1) << ((t - segment.first) % 64);
+        uint64_t carry = 1;
+        live = 0;
+        for (size_t w = 0; w < reach; ++w) {
+            const uint64_t next = state[w] >> 63;
+            state[w] = ((state[w] << 1) | carry) & mask[w];
+            carry = next;
+            if (state[w] != 0)
+                live = w + 1;
+        }
+        if (state[lastWord] & lastBit)
+            return s + 1;
+    }
+    return -1;
 }
 
 namespace {

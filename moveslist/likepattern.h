@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 // A pattern of the list's Find, matched against the whole of a subject:
@@ -12,8 +14,9 @@
 // ! negates only right behind the opening bracket; ] outside brackets is itself, and
 // [] matches nothing at all, taking no character. Characters compare by their codes.
 //
-// Matching takes time in proportion to subject length times pattern length at worst:
-// only the last * is ever gone back to, whatever the number of them.
+// Matching takes time in proportion to the subject's length, times the length of the
+// longest run between two stars in 64ths: each such run is looked for by a bit-parallel
+// automaton, one bit a token, at its leftmost place after the run before it.
 class LikePattern {
 public:
     // An opening bracket without its closing one, or a range whose bounds stand in
@@ -42,8 +45,25 @@ private:
         std::vector<Range> ranges;
     };
 
+    // The tokens between two stars, as masks of the automaton: bit j of word w stands
+    // for token 64 w + j, and a unit's mask has the bits of the tokens that take it.
+    struct Segment {
+        size_t length = 0;
+        size_t words = 0;
+        std::vector<uint64_t> any;   // ? and negated lists, checked one by one below
+        std::vector<uint64_t> digit; // #
+        std::vector<uint64_t> ascii; // plain characters below 128, 128 x words
+        std::vector<std::pair<char16_t, std::vector<uint64_t>>> wide; // the others
+        std::vector<size_t> lists; // tokens that are bracket lists
+        size_t first = 0;          // the segment's first token
+    };
+
     qsizetype readList(const QString& pattern, qsizetype open);
     static bool accepts(const Token& token, char16_t unit);
+    void buildSegments();
+    qsizetype findSegment(const Segment& segment, QStringView subject, qsizetype from,
+                          bool upperCase, std::vector<uint64_t>& state,
+                          std::vector<uint64_t>& mask) const;
     bool matchesBetweenStars(QStringView middle, bool upperCase) const;
     static bool mayHold(QStringView subject, char16_t unit, bool upperCase);
 
@@ -54,4 +74,5 @@ private:
     // A few plain characters the subject must hold somewhere, looked for first.
     static constexpr size_t MaxRequiredUnits = 4;
     std::vector<char16_t> m_requiredUnits;
+    std::vector<Segment> m_segments;
 };
