@@ -8,6 +8,14 @@
 std::string numberText(double n)
 {
     char text[32];
+    // Whole numbers, the widths and colours of every drawn row among them, print as
+    // "%.15g" prints them, without its cost; negative zero keeps its sign that way.
+    if (n == std::trunc(n) && std::abs(n) < 1e15 && !(n == 0 && std::signbit(n))) {
+        const auto end = std::to_chars(text, text + sizeof text, static_cast<long long>(n)).ptr;
+        std::string result(n < 0 ? 0 : 1, ' ');
+        result.append(text, end);
+        return result;
+    }
     std::snprintf(text, sizeof text, "%.15g", n);
     // Built in one string: a blank added to a temporary makes g++ -O3 see an overlap
     // that is not there.

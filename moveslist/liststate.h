@@ -7,8 +7,8 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <deque>
 #include <memory>
-#include <vector>
 
 // The state of one list control, in the order the control declares it. Widths are
 // signed and kept as declared: row numbers and twips heights are 16 bits.
@@ -20,8 +20,8 @@ struct ListState {
     int32_t SelectedRow = -1;
     int32_t ItemCount = 0;
     // Item i (from 1) at entry i; entry 0 is never filled. No storage until the
-    // first Additem.
-    std::vector<QString> Items;
+    // first Additem. A deque, so that a line on top of a long log moves no other.
+    std::deque<QString> Items;
     int16_t NextRowTop = 0;
     int16_t GridLinesOn = 0;
     int16_t ViewHeight = 0;

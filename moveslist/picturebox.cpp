@@ -11,6 +11,7 @@
 #include <QScreen>
 
 #include <cmath>
+#include <cstring>
 
 namespace {
 
@@ -175,18 +176,40 @@ void PictureBox::PaintPicture(const QImage& source, QPointF at, QSizeF size, QPo
 void PictureBox::BitBlt(int x, int y, int width, int height, const PictureBox& source, int sourceX,
                         int sourceY)
 {
+    BitBlt(x, y, width, height, source.image(), sourceX, sourceY);
+}
+
+void PictureBox::BitBlt(int x, int y, int width, int height, const QImage& from, int sourceX,
+                        int sourceY)
+{
     syncImage();
-    const QImage& from = source.image();
     // Only what the source holds is copied; the part of the block past its edge
     // stays as it was.
-    const QRect block = QRect(sourceX, sourceY, width, height).intersected(source.logicalRect());
+    const QRect whole(QPoint(0, 0), from.deviceIndependentSize().toSize());
+    const QRect block = QRect(sourceX, sourceY, width, height).intersected(whole);
     if (block.isEmpty())
         return;
-    QPainter painter(&m_canvas);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
     const QPoint target(x + block.x() - sourceX, y + block.y() - sourceY);
-    painter.drawImage(QRectF(QRect(target, block.size())), from,
-                      deviceRect(block, from.devicePixelRatio()));
+    const qreal ratio = m_canvas.devicePixelRatio();
+    if (from.format() == m_canvas.format() && from.devicePixelRatio() == ratio &&
+        m_canvas.depth() == 32) {
+        // A plain copy of whole pixels, line by line: a painter's set-up costs more than
+        // the row it would copy.
+        const QRect source = deviceRect(block, ratio).toAlignedRect();
+        const QRect into = QRect(deviceRect(QRect(target, block.size()), ratio).toAlignedRect())
+                               .intersected(m_canvas.rect());
+        const int left = into.x() - (deviceRect(QRect(target, block.size()), ratio).x());
+        const int top = into.y() - (deviceRect(QRect(target, block.size()), ratio).y());
+        for (int row = 0; row < into.height(); ++row)
+            std::memcpy(m_canvas.scanLine(into.y() + row) + into.x() * 4,
+                        from.constScanLine(source.y() + top + row) + (source.x() + left) * 4,
+                        size_t(into.width()) * 4);
+    } else {
+        QPainter painter(&m_canvas);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.drawImage(QRectF(QRect(target, block.size())), from,
+                          deviceRect(block, from.devicePixelRatio()));
+    }
     drawn(QRect(target, block.size()));
 }
 
@@ -247,6 +270,7 @@ const QImage& PictureBox::image() const
 
 void PictureBox::paintEvent(QPaintEvent* event)
 {
+    m_waiting = QRect();
     syncImage();
     QPainter painter(this);
     painter.drawImage(QRectF(event->rect()), m_canvas,
@@ -315,7 +339,12 @@ QRect PictureBox::pixelRect(QPointF from, QPointF to) const
     return QRect(left, top, right - left, bottom - top);
 }
 
+// What was drawn is shown at the next paint. A row drawn inside a region already
+// waiting for it asks for nothing more.
 void PictureBox::drawn(const QRect& area)
 {
+    if (m_waiting.contains(area))
+        return;
+    m_waiting = m_waiting.united(area);
     update(area);
 }

@@ -65,6 +65,9 @@ public:
     // Copies a block of pixels from another surface, source copy.
     void BitBlt(int x, int y, int width, int height, const PictureBox& source, int sourceX,
                 int sourceY);
+    // The same from pixels kept elsewhere, at the canvas's density.
+    void BitBlt(int x, int y, int width, int height, const QImage& source, int sourceX,
+                int sourceY);
 
     // Picture2's role: holds a picture and takes its size.
     const QImage& Picture() const { return m_picture; }
@@ -95,6 +98,8 @@ private:
     int pixelY(double twips) const;
     QRect pixelRect(QPointF from, QPointF to) const;
     void drawn(const QRect& area);
+    // The part of the widget already waiting for the next paint.
+    QRect m_waiting;
 
     mutable QImage m_canvas;
     QFont m_drawFont;

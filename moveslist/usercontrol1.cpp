@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <qdrawutil.h>
 
 namespace {
@@ -40,6 +42,36 @@ QPixmap dropArrow(qreal ratio)
     painter.end();
     return QPixmap::fromImage(arrow);
 }
+
+// The list's scroll bar: a new maximum that leaves the thumb where it was, and the
+// arrows as they were, leaves the bar's pixels alone too. A log's maximum grows with
+// every line, and the thumb of a long log no longer moves.
+class ListScrollBar : public QScrollBar {
+public:
+    explicit ListScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {}
+
+protected:
+    void sliderChange(SliderChange change) override
+    {
+        const auto look = this->look();
+        if (change == SliderRangeChange && look == m_painted)
+            return;
+        m_painted = look;
+        QScrollBar::sliderChange(change);
+    }
+
+private:
+    std::tuple<QRect, bool, bool> look() const
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        return {style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
+                                        this),
+                value() == minimum(), value() == maximum()};
+    }
+
+    std::tuple<QRect, bool, bool> m_painted;
+};
 
 } // namespace
 
@@ -105,7 +137,7 @@ void UserControl1::createChildren()
     Text1 = new QLineEdit(this);
     setChildHeight(Text1, Text1Height);
 
-    VScroll1 = new QScrollBar(Qt::Vertical, this);
+    VScroll1 = new ListScrollBar(this);
     VScroll1->setRange(0, 0);
     VScroll1->setSingleStep(1);
     VScroll1->setPageStep(1);

@@ -6,6 +6,7 @@
 #include "moveslist/propertybag.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QImage>
 #include <QString>
 #include <QWidget>
@@ -13,6 +14,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <tuple>
 
 class ListAccessible;
 class PictureBox;
@@ -275,6 +277,16 @@ private:
 
     void applySurfaceBorder(int16_t style);
     void applySurfaceBackColor(int32_t colour);
+
+    // What Picture3 held after printing a row, by text, colour and font, for as long as
+    // its back colour, size, font size and density stay those of the stamp.
+    struct KeptBand {
+        QImage band;
+        int32_t width;
+    };
+    static constexpr qsizetype MaxKeptBands = 48;
+    QHash<QString, KeptBand> m_keptBands;
+    std::tuple<int32_t, QSize, float, qreal> m_bandStamp;
 
     ListState m_state;
     bool m_inDesign = false;

@@ -62,9 +62,19 @@ void UserControl1::drawItem(int32_t item, int32_t counter)
     DrawRow(counter, col::column(m_state.ItemColumns, col::Text),
             col::column(m_state.ItemColumns, col::FontName),
             col::column(m_state.ItemColumns, col::Colour), m_state.NextRowTop, width);
+    const QString drawn = moveslist::numberText(width);
+    QString& record = m_state.Items[entry];
+    // A record of the six columns keeps all but its last: only the width is written,
+    // and a row drawn at the width it had leaves its record as it was.
+    if (m_state.ItemColumns.size() == col::DrawnWidth + 1) {
+        const qsizetype last = record.lastIndexOf(QLatin1Char('\t')) + 1;
+        if (QStringView(record).mid(last) != drawn)
+            record.replace(last, record.size() - last, drawn);
+        return;
+    }
     QStringList columns = m_state.ItemColumns.mid(0, col::DrawnWidth);
-    columns.append(moveslist::numberText(width));
-    m_state.Items[entry] = col::join(columns);
+    columns.append(drawn);
+    record = col::join(columns);
 }
 
 void UserControl1::DrawRow(int32_t rowInView, const QString& text, const QString& font,
@@ -86,16 +96,31 @@ void UserControl1::DrawRow(int32_t rowInView, const QString& text, const QString
 
 // The text goes through Picture3 and lands on the canvas as one block, as wide as the
 // canvas: its own background, the text, and the rest of the band wiped in one step.
+// A row printed before in the same colour and font is copied from what Picture3 held
+// then, pixel for pixel: a new line on top of the log prints one row, not all of them.
 void UserControl1::DrawRowText(int x, int y, const QString& text, const QString& colour,
                                const QString& font, int32_t& width)
 {
-    Picture3->Cls();
+    const auto rowPixels = static_cast<int>(R(divide(m_state.RowTwips, m_state.PixelTwipsY)));
     Picture3->foreColor(to32(moveslist::numericRead(colour)));
     Picture3->fontName(font);
+    const QString key = text + QLatin1Char('\t') + colour + QLatin1Char('\t') + font;
+    const auto stamp = std::make_tuple(Picture3->BackColor(), Picture3->image().size(),
+                                       Picture3->FontSize(), Picture3->image().devicePixelRatio());
+    if (stamp != m_bandStamp || m_keptBands.size() >= MaxKeptBands) {
+        m_keptBands.clear();
+        m_bandStamp = stamp;
+    }
+    if (const auto kept = m_keptBands.constFind(key); kept != m_keptBands.constEnd()) {
+        width = kept->width;
+        Picture1->BitBlt(x, y, Picture1->width(), rowPixels, kept->band, 0, 0);
+        return;
+    }
+    Picture3->Cls();
     Picture3->Print(text);
     width = to32(R(Picture3->TextWidth(text)));
-    const auto rowPixels = static_cast<int>(R(divide(m_state.RowTwips, m_state.PixelTwipsY)));
     Picture1->BitBlt(x, y, Picture1->width(), rowPixels, *Picture3, 0, 0);
+    m_keptBands.insert(key, {Picture3->image(), width});
 }
 
 // AND leaves the row as it is wherever the picture is white; a picture that cannot

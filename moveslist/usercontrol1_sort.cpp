@@ -21,7 +21,7 @@ struct Split {
 // Records compare as binary text, code unit by code unit, case counting.
 template <bool Ascending> class HoleSort {
 public:
-    explicit HoleSort(std::vector<QString>& items) : m_items(items) {}
+    explicit HoleSort(std::deque<QString>& items) : m_items(items) {}
 
     // Recurses into the smaller part and loops on the larger, so that a list of
     // identical records, which leaves every record on one side, stays shallow.
@@ -110,7 +110,7 @@ private:
         return {next, at + 1};
     }
 
-    std::vector<QString>& m_items;
+    std::deque<QString>& m_items;
     bool m_sawEqual = false;
 };
 

@@ -75,10 +75,11 @@ void UserControl1::additemInsert(QString& s, int16_t itemx, int16_t ipic, int32_
 {
     if (itemx > m_state.ItemCount)
         return;
-    const auto at = m_state.Items.begin() + itemx;
-    std::move_backward(at, m_state.Items.begin() + m_state.ItemCount + 1,
-                       m_state.Items.begin() + m_state.ItemCount + 2);
-    *at = newRecord(s, ipic, ItemColor, QStringLiteral(" "));
+    // The spare entry Additem grew goes to the record's place: the entries behind it
+    // move down one.
+    m_state.Items.pop_back();
+    m_state.Items.insert(m_state.Items.begin() + itemx,
+                         newRecord(s, ipic, ItemColor, QStringLiteral(" ")));
     ++m_state.ItemCount;
     setScrollMaximum(m_state.ItemCount - 1);
     if (itemx >= m_state.TopRow && itemx <= m_state.BottomRow && !topInsert)

@@ -1,5 +1,5 @@
-// The engine driven by any sequence of what a user can do in the window, nested inside
-// the pause of a computer's move too. After each step the board is the one the rules
+// The engine driven by any sequence of what a user can do in the window, also in batches
+// inside the pause of a computer's move, before and after the click that releases it. After each step the board is the one the rules
 // give, no bead came or went, and the faces, the bar and the game's end agree with it.
 #include "fuzzinput.h"
 #include "recording_screen.h"
@@ -40,6 +40,8 @@ struct GameRun {
         };
         // Kinds 0 and 2 are left clicks, 1 a right one. The window lets a pot event through
         // only from an enabled pot; the right button's preview only shows the sowing.
+        // Undo, the forced turn and the hint come also while their frame is shut: the
+        // game must turn them away itself during a computer's move.
         const auto s = static_cast<int16_t>(kind < 3 ? in.pick(SlotCount) : 0);
         if (kind < 3 && (isBank(s) || (isHumanPot(s) ? !screen.potEnabled[s] : state.GameFinished)))
             return r;
@@ -49,7 +51,7 @@ struct GameRun {
         } else if (kind < 3) {
             playing(s);
             game.Pots_MouseUp(s, 1, 0, 0, 0);
-        } else if (kind == 3 && screen.undoxEnabled && screen.commandFrameEnabled) {
+        } else if (kind == 3 && screen.undoxEnabled) {
             const bool undone = canMove();
             game.Undox_Click();
             if (undone)
@@ -94,22 +96,20 @@ struct GameRun {
         return r;
     }
 
-    // Each turn of the pause's event loop runs one more action; only the click on the
-    // message bar lets the computer go on. An event queued behind that click runs in
-    // the same turn, still inside the computer's move.
+    // Each turn of the pause's event loop delivers a batch of what queued up meanwhile.
+    // The click on the message bar, the likeliest of them, lets the computer go on, and
+    // what is queued behind it runs at once, still inside the computer's move. No bead
+    // count in here: a capture is told between crediting the bank and clearing the pots.
     void whilePaused()
     {
-        if (in.done() || nested || in.pick(4) == 0) {
-            game.Mess_Click();
-            if (in.done() || nested || in.pick(2) != 0)
-                return;
-        }
-        // No bead count in here: a capture is told between crediting the bank and
-        // clearing the two pots.
         const Board before = state.Beads;
-        nested = true;
-        act(in.pick(12));
-        nested = false;
+        for (int n = nested ? 0 : 1 + in.pick(4); n > 0 && !in.done(); --n) {
+            nested = true;
+            act(std::min(in.pick(16), 11));
+            nested = false;
+        }
+        if (in.done() || nested)
+            game.Mess_Click();
         if (state.Beads != before)
             fail("an event inside the computer's move changed the board");
     }
@@ -122,8 +122,10 @@ struct GameRun {
         if (std::any_of(now.begin(), now.end(), [](int n) { return n < 0; }) ||
             std::accumulate(now.begin(), now.end(), 0) != 12 * state.StartBeadCount)
             fail("beads came or went");
-        if (state.WaitingForClick != 0 || state.HintActive != state.BoardMirrored)
-            fail("a pause waits after its handler returned, or the board is turned wrongly");
+        if (state.WaitingForClick != 0 || state.HintActive != state.BoardMirrored ||
+            screen.startBeads != state.StartBeadCount)
+            fail("a pause waits after its handler returned, the board is turned wrongly, "
+                 "or the slider shows another count than the game's");
         if (state.HintActive)
             return;
         for (int s = 0; s < SlotCount; ++s)

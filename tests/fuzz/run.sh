@@ -9,8 +9,10 @@ here=$(cd "$(dirname "$0")" && pwd)
 findings="$build/fuzz-findings"
 
 # Each target's longest useful input: longer ones only repeat what is already there.
-declare -A maxlen=([fuzz_pattern]=32 [fuzz_block]=4096 [fuzz_game]=512 [fuzz_list]=1024)
-targets=(fuzz_pattern fuzz_block fuzz_game fuzz_list)
+# Patterns and subjects go up to 2,000 characters each, with a line feed between them.
+declare -A maxlen=([fuzz_pattern]=4001 [fuzz_block]=4096 [fuzz_game]=512 [fuzz_list]=1024
+    [fuzz_control]=4096)
+targets=(fuzz_pattern fuzz_block fuzz_game fuzz_list fuzz_control)
 
 export ASAN_OPTIONS=abort_on_error=1:detect_leaks=1
 export LSAN_OPTIONS=suppressions=$here/../sanitize.supp:print_suppressions=0
@@ -26,6 +28,7 @@ for target in "${targets[@]}"; do
     start=$(date +%s.%N)
     "$build/tests/fuzz/$target" "$scratch" "$here/corpus/$target" \
         -max_total_time="$seconds" -max_len="${maxlen[$target]}" -print_final_stats=1 \
+        -timeout=10 \
         -artifact_prefix="$findings/$target-" >"$log" 2>&1
     result=$?
     elapsed=$(awk -v a="$start" -v b="$(date +%s.%N)" 'BEGIN { printf "%.1f", b - a }')

@@ -25,8 +25,8 @@ public:
     QString LastAddedIndex() const { return m_list.LastAddedIndex(); }
     QString ChosenIndex() const { return m_list.ChosenIndex(); }
     void ChosenIndex(const QString& index) { m_list.ChosenIndex(index); }
-    const std::vector<QString>& items() const { return m_list.m_state.Items; }
-    std::vector<QString>& items() { return m_list.m_state.Items; }
+    const std::deque<QString>& items() const { return m_list.m_state.Items; }
+    std::deque<QString>& items() { return m_list.m_state.Items; }
 
 private:
     UserControl1& m_list;
