@@ -41,6 +41,20 @@ class QScrollBar;
 class UserControl1 : public QWidget {
     Q_OBJECT
     friend class ListProbe;
+    // The stored properties by their stored keys, for Qt Designer and QUiLoader.
+    Q_PROPERTY(bool Enabled READ Enabled WRITE Enabled)
+    Q_PROPERTY(QString Fontname READ Fontname WRITE Fontname)
+    Q_PROPERTY(double FontSize READ FontSize WRITE FontSize)
+    Q_PROPERTY(int ForeColor READ forecolor WRITE forecolor)
+    Q_PROPERTY(bool GridLines READ GridLines WRITE GridLines)
+    Q_PROPERTY(int BorderStyle READ BorderStyle WRITE designBorderStyle)
+    Q_PROPERTY(int DropDownHeight READ DropDownHeight WRITE DropDownHeight)
+    Q_PROPERTY(int Mode READ Mode WRITE Mode)
+    Q_PROPERTY(int RowHeight READ designRowHeight WRITE designRowHeight)
+    Q_PROPERTY(int DrawStyle READ DrawStyle WRITE DrawStyle)
+    Q_PROPERTY(int BackColor READ BackColor WRITE BackColor)
+    Q_PROPERTY(int GridColor READ GridColor WRITE GridColor)
+    Q_PROPERTY(bool ToolTip READ ToolTip WRITE ToolTip)
 
 public:
     // Runs UserControl_Initialize only: the host then reads or initialises the
@@ -133,6 +147,12 @@ public:
     void UserControl_InitProperties();
     void UserControl_ReadProperties(const PropertyBag& PropBag);
     void UserControl_WriteProperties(PropertyBag& PropBag) const;
+
+    // For a form designer, which offers any number: RowHeight in whole twips (0 while
+    // the first item measures it), and values the setters would refuse left out.
+    int designRowHeight() const;
+    void designRowHeight(int twips);
+    void designBorderStyle(int style);
 
     // Run time unless told otherwise; design time changes what some setters refuse.
     bool designTime() const { return m_inDesign; }

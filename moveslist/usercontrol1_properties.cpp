@@ -292,3 +292,21 @@ void UserControl1::ToolTip(bool New_ToolTip)
     m_state.ToolTipOn = New_ToolTip;
     emit propertyChanged(QStringLiteral("ToolTip"));
 }
+
+int UserControl1::designRowHeight() const
+{
+    const double twips = m_state.RowHeightValue.toNumber();
+    return std::isfinite(twips) && std::abs(twips) < 1e9 ? static_cast<int>(R(twips)) : 0;
+}
+
+void UserControl1::designRowHeight(int twips)
+{
+    if (twips >= 1)
+        RowHeight(twips);
+}
+
+void UserControl1::designBorderStyle(int style)
+{
+    if (style == 0 || style == 1)
+        BorderStyle(static_cast<int16_t>(style));
+}

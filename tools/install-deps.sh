@@ -13,6 +13,7 @@ play=(
 )
 package=(
   build-essential dpkg-dev debhelper
+  qt6-tools-dev libqt6opengl6-dev
 )
 test=(
   libgtest-dev libgmock-dev libbenchmark-dev
