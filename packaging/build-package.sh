@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Builds the Debian package from a copy of the sources, so that what dpkg-buildpackage
 # leaves stays out of the work tree:
-#   build-package.sh <folder>   ->  <folder>/tavok_<version>_<arch>.deb, its -dbgsym
-#                                   package and the .changes beside them
+#   build-package.sh <folder>   ->  <folder>/tavok_<version>_<arch>.deb, the list's
+#                                   libtavok-moveslist1 and -dev packages, the -dbgsym
+#                                   packages and the .changes beside them
 set -euo pipefail
 out=${1:?usage: build-package.sh <folder>}
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -10,7 +11,7 @@ mkdir -p "$out"
 out=$(cd "$out" && pwd)
 source="$out/package-source"
 rm -rf "$source"
-rm -f "$out"/tavok_* "$out"/tavok-dbgsym_*
+rm -f "$out"/tavok_* "$out"/tavok-dbgsym_* "$out"/libtavok-moveslist*
 mkdir -p "$source"
 
 # The project's files, committed or not, without build folders or anything ignored.

@@ -22,6 +22,9 @@ dbgsym=("$build"/tavok-dbgsym_*.deb)
 [[ ${#debs[@]} -eq 1 && ${#changes[@]} -eq 1 ]] || fail "expected one tavok_*.deb and one .changes in $build"
 [[ ${#dbgsym[@]} -eq 1 ]] || fail "no debug symbols package beside the game's"
 deb=${debs[0]}
+libs=("$build"/libtavok-moveslist1_*.deb)
+devs=("$build"/libtavok-moveslist-dev_*.deb)
+[[ ${#libs[@]} -eq 1 && ${#devs[@]} -eq 1 ]] || fail "expected the list's library and -dev packages"
 
 echo "== lintian $(basename "${changes[0]}")"
 lintian --fail-on error,warning "${changes[0]}"
@@ -29,7 +32,13 @@ lintian --fail-on error,warning "${changes[0]}"
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
 dpkg -x "$deb" "$root"
+dpkg -x "${libs[0]}" "$root"
+dpkg -x "${devs[0]}" "$root"
 game="$root/usr/games/tavok"
+# Unpacked, not installed: the game finds the list's library in the scratch root.
+multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
+export LD_LIBRARY_PATH="$root/usr/lib/$multiarch"
+dpkg-deb -f "$deb" Depends | grep -q "libtavok-moveslist1" || fail "the game does not depend on the list's library"
 
 echo "== the files"
 for file in usr/games/tavok usr/share/games/tavok/tavok.htm \
@@ -45,9 +54,20 @@ for size in 16 24 32 48 64 128 256 512; do
   [[ -f $icon ]] || fail "no icon of $size pixels"
   file "$icon" | grep -q "$size x $size" || fail "the $size-pixel icon is $(file -b "$icon")"
 done
-if readelf -S "$game" | grep -q '\.debug_info'; then
-  fail "the program is not stripped"
-fi
+for file in usr/include/tavok/moveslist/usercontrol1.h \
+  "usr/lib/$multiarch/cmake/TavokMovesList/TavokMovesListConfig.cmake" \
+  "usr/lib/$multiarch/libtavok-moveslist.so.1" \
+  "usr/lib/$multiarch/qt6/plugins/designer/libtavok-moveslist-designer.so"; do
+  [[ -e "$root/$file" ]] || fail "the list's packages lack /$file"
+done
+for binary in "$game" "$root/usr/lib/$multiarch/libtavok-moveslist.so.1"; do
+  if readelf -S "$binary" | grep -q '\.debug_info'; then
+    fail "$binary is not stripped"
+  fi
+  if readelf -d "$binary" | grep -q -E 'RPATH|RUNPATH'; then
+    fail "$binary carries a search path for libraries"
+  fi
+done
 
 echo "== the command line"
 version=$(dpkg-deb -f "$deb" Version)

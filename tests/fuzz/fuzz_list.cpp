@@ -13,7 +13,6 @@
 #include <cmath>
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace {
 
@@ -31,13 +30,14 @@ QString Text(FuzzInput& in, int most)
     return text;
 }
 
-// An index or number as a caller passes it: a number, its text between a blank and a TAB,
-// or a text that is no number (a letter before it, a NUL behind it); now and then NaN, an
-// infinity or a number past 16 bits. A strict reading refuses all but finite numbers (13).
+// An index or number as a caller passes it, and what a strict reading finds in it: now
+// and then NaN, an infinity or a number past 16 bits; a number text between a blank and
+// a TAB, or a text that is no number (a letter before, a NUL behind), found NaN. A strict
+// reading refuses all but finite numbers (13).
 struct Arg {
     AnyValue value;
-    std::optional<double> number;
-    bool strict() const { return number && std::isfinite(*number); }
+    double number;
+    bool ok() const { return std::isfinite(number); }
 };
 
 Arg Index(FuzzInput& in, int count)
@@ -47,7 +47,7 @@ Arg Index(FuzzInput& in, int count)
     const double n = k < count + 2 ? k + (in.pick(4) == 0 ? 0.5 : 0) : edges[k - count - 2];
     const int form = in.pick(8);
     if (form < 2)
-        return {form ? QStringLiteral("x%1").arg(n) : QStringLiteral("%1").arg(n) + QChar(0), {}};
+        return {form ? QStringLiteral("x%1").arg(n) : QStringLiteral("%1").arg(n) + QChar(0), NAN};
     return {form == 2 ? AnyValue(QStringLiteral(" %1\t").arg(n)) : AnyValue(n), n};
 }
 
@@ -62,38 +62,24 @@ struct ListRun {
 
     int count() const { return int(texts.size()); }
 
-    // The item a 0-based index names, -1 for none: its range is tested on the index plus
-    // one as given, and only then is it brought whole, halves to the even neighbour.
-    int entry(double it) const
-    {
-        return it + 1 >= 1 && it + 1 <= count() ? int(std::nearbyint(it + 1)) - 1 : -1;
-    }
-
-    // Runs a member and gives its code (0: none): a refusal changes no record and carries
-    // one of the codes allowed; with none listed, any.
-    template <typename Member> int expect(std::initializer_list<int> allowed, Member member)
+    // Runs a member, its code (0: none) left in `code`: a refusal changes no record and
+    // carries one of the codes allowed; with none listed, any.
+    template <typename Member> void expect(std::initializer_list<int> allowed, Member member)
     {
         const auto before = list->state().Items;
-        int code = 0;
+        code = 0;
         try {
             member();
         } catch (const ListError& e) {
             code = e.code();
             // A refused Additem may leave a spare entry behind the last.
             const auto& after = list->state().Items;
-            if (after.size() < before.size() || !std::equal(before.begin(), before.end(), after.begin()))
+            if (after.size() < before.size() ||
+                !std::equal(before.begin(), before.end(), after.begin()))
                 fail("a refused call changed the store");
         }
         if (allowed.size() && std::find(allowed.begin(), allowed.end(), code) == allowed.end())
             fail("ListError " + std::to_string(code) + ", not " + std::to_string(*allowed.begin()));
-        return code;
-    }
-
-    // What was stored as an item's data reads back as the same number.
-    void dataIs(int n, const Arg& v)
-    {
-        if (n >= 0 && v.strict() && list->GetItemData(n) != AnyValue(*v.number))
-            fail("GetItemData does not give back the number stored");
     }
 
     void call(int kind)
@@ -102,22 +88,28 @@ struct ListRun {
             return Additem();
         if (kind == 4) {
             texts.clear();
-            return void(expect({0}, [&] { list->Clear(); }));
+            widePicture = false;
+            return expect({0}, [&] { list->Clear(); });
         }
         // Whole records compare as binary text, the text first and a TAB behind it.
         if (kind == 9 || kind == 10) {
             std::sort(texts.begin(), texts.end(), [&](const QString& a, const QString& b) {
                 return kind == 9 ? a + u'\t' < b + u'\t' : b + u'\t' < a + u'\t';
             });
-            return void(expect({0}, [&] { kind == 9 ? list->SortAscending() : list->SortDescending(); }));
+            return expect({0}, [&] { kind == 9 ? list->SortAscending() : list->SortDescending(); });
         }
         // The plain list and the drop-down keep their items differently; a row height
         // below 1 is refused.
         if (kind == 11 || kind == 12)
-            return void(expect({}, [&] { kind == 11 ? list->Mode(in.pick(2)) : list->RowHeight(in.pick(9) - 2); }));
+            return expect(
+                {}, [&] { kind == 11 ? list->Mode(in.pick(2)) : list->RowHeight(in.pick(9) - 2); });
         const Arg it = Index(in, count());
-        const int refused = it.strict() ? 0 : TypeMismatch;
-        const int n = it.strict() ? entry(*it.number) : -1;
+        const int refused = it.ok() ? 0 : TypeMismatch;
+        // The item it names, -1 for none: the range is tested on the index as given, before
+        // it is brought whole, halves to the even neighbour.
+        const int n = it.number >= 0 && it.number <= count() - 1
+                          ? int(std::nearbyint(it.number + 1)) - 1
+                          : -1;
         if (kind == 3) {
             expect({refused}, [&] { list->RemoveItem(it.value); });
             if (n >= 0)
@@ -125,31 +117,30 @@ struct ListRun {
         } else if (kind == 8) {
             // ShowItem counts from 1. The pick is made before the scroll, which may not
             // reach that far.
-            const bool named = it.strict() && *it.number >= 1 && *it.number <= count();
-            expect({refused, named ? InvalidPropertyValue : refused}, [&] { list->ShowItem(it.value); });
+            const bool named = it.ok() && it.number >= 1 && it.number <= count();
+            expect({refused, named ? InvalidPropertyValue : refused},
+                   [&] { list->ShowItem(it.value); });
         } else if (kind == 13) {
-            // Writing List stores the value only, whatever the index.
-            expect({refused}, [&] {
-                list->List(it.value, it.value);
-                if (list->List(it.value) != AnyValue(n >= 0 ? texts[n] : QString()) ||
-                    list->GetItemData(it.value).isEmpty() != (n < 0))
-                    fail("List or GetItemData read another item than the one named");
-            });
-        } else if (kind == 14) {
-            // -1 names the item added last; the value is read only for an item.
+            // SetItemData: -1 names the item added last, and the value is read only for an
+            // item. Writing List stores the value alone.
             const Arg v = Index(in, 300);
-            const int at = it.strict() && *it.number == -1 ? entry(lastAdded) : n;
-            if (!expect({!it.strict() || (at >= 0 && !v.strict()) ? TypeMismatch : 0},
-                        [&] { list->SetItemData(it.value, v.value); }))
-                dataIs(at, v);
+            const int at = it.number != -1 ? n : lastAdded < count() ? lastAdded : -1;
+            expect({!it.ok() || (at >= 0 && !v.ok()) ? TypeMismatch : 0}, [&] {
+                list->SetItemData(it.value, v.value);
+                list->List(it.value, v.value);
+                if (list->List(it.value) != AnyValue(n >= 0 ? texts[n] : QString()) ||
+                    list->GetItemData(it.value).isEmpty() != (n < 0) ||
+                    (at >= 0 && list->GetItemData(at) != AnyValue(v.number)))
+                    fail("List or GetItemData read another item or number than was stored");
+            });
         } else {
             update(it);
         }
     }
 
     // From 1 an item goes to that index, and one past the last is not added; -1 puts
-    // it first; anything else last. With no picture given it takes the last item's,
-    // which fails once a picture number past 16 bits was stored.
+    // it first; anything else last. Without a picture it takes the last item's, which
+    // fails (6) once a picture number past 16 bits is stored.
     void Additem()
     {
         QString s = Text(in, 6);
@@ -157,45 +148,43 @@ struct ListRun {
         auto ipic = int16_t(in.pick(6) - 1);
         QString font = in.pick(4) == 0 ? QStringLiteral("Font%1").arg(in.pick(3)) : QString();
         int32_t colour = in.pick(3) == 0 ? -1 : in.pick(256);
-        const int at = itemx > 0 ? itemx : itemx == -1 ? 0 : count();
-        if (!expect({0, widePicture && ipic <= 0 ? Overflow : 0},
-                    [&] { list->Additem(s, int16_t(itemx), ipic, font, colour); }) &&
-            (itemx < count() || itemx <= 0)) {
-            texts.insert(at, s);
-            lastAdded = at;
+        expect({0, widePicture && ipic <= 0 ? Overflow : 0},
+               [&] { list->Additem(s, int16_t(itemx), ipic, font, colour); });
+        if (code == 0 && (itemx < count() || itemx <= 0)) {
+            lastAdded = itemx > 0 ? itemx : itemx == -1 ? 0 : count();
+            texts.insert(lastAdded, s);
         }
     }
 
     // One column replaced: text, data, picture, font, colour. The index plus one is
-    // brought to 16 bits (6 past them) before its range is tested; the data and the
-    // picture refuse a value that is no number, but only for an item.
+    // brought whole in 16 bits (6 past them) before its range is tested; the data and
+    // the picture refuse a value that is no number, but only for an item.
     void update(const Arg& it)
     {
         const int column = in.pick(5);
         const QString text = column == 3 ? QStringLiteral("Font%1").arg(in.pick(3)) : Text(in, 6);
         const Arg v = Index(in, 300);
         const int16_t colour = in.word();
-        const std::function<void()> columns[] = {
-            [&] { list->UpdateText(it.value, text); },
-            [&] { list->UpdateItemData(it.value, v.value); },
-            [&] { list->UpdateIcon(it.value, v.value); }, [&] { list->UpdateFont(it.value, text); },
-            [&] { list->UpdateForeColor(it.value, colour); }};
-        const double r = it.strict() ? std::nearbyint(*it.number + 1) : 0;
+        const std::function<void()> columns[] = {[&] { list->UpdateText(it.value, text); },
+                                                 [&] { list->UpdateItemData(it.value, v.value); },
+                                                 [&] { list->UpdateIcon(it.value, v.value); },
+                                                 [&] { list->UpdateFont(it.value, text); },
+                                                 [&] { list->UpdateForeColor(it.value, colour); }};
+        const double r = std::nearbyint(it.number + 1);
         const int n = r >= 1 && r <= count() ? int(r) - 1 : -1;
-        const int code = !it.strict()               ? TypeMismatch
-                         : r < -32768 || r > 32767 ? Overflow
-                         : n >= 0 && (column == 1 || column == 2) && !v.strict() ? TypeMismatch
-                                                                                  : 0;
-        if (expect({code}, columns[column]) || n < 0)
+        const bool mismatch = !it.ok() || (n >= 0 && (column == 1 || column == 2) && !v.ok());
+        expect({mismatch ? TypeMismatch : r < -32768 || r > 32767 ? Overflow : 0}, columns[column]);
+        if (code || n < 0)
             return;
         if (column == 0)
             texts[n] = text;
-        dataIs(column == 1 ? n : -1, v);
-        widePicture = widePicture || (column == 2 && (*v.number < -32768 || *v.number > 32767));
+        if (column == 1 && list->GetItemData(n) != AnyValue(v.number))
+            fail("UpdateItemData stored another number");
+        widePicture = widePicture || (column == 2 && !(v.number >= -32768 && v.number <= 32767));
     }
 
     // Entry 0 of the store holds no item; each record is six columns, the text first.
-    void check()
+    void check() const
     {
         const auto& items = list->state().Items;
         bool same = list->ListCount() == AnyValue(count()) && list->state().ItemCount == count() &&
@@ -205,7 +194,6 @@ struct ListRun {
             same = items[size_t(i) + 1].count(QLatin1Char('\t')) == 5 &&
                    items[size_t(i) + 1].startsWith(texts[i] + QLatin1Char('\t')) &&
                    list->List(i) == AnyValue(texts[i]);
-        widePicture = widePicture && count() > 0;
         if (!same)
             fail("the store differs from the model's texts: " + texts.join('|').toStdString());
     }
@@ -213,7 +201,8 @@ struct ListRun {
     FuzzInput& in;
     std::unique_ptr<UserControl1> list;
     QStringList texts;
-    double lastAdded = 0;
+    int code = 0;
+    int lastAdded = 0;
     bool widePicture = false;
 };
 

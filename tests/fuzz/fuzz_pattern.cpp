@@ -1,8 +1,8 @@
 // The list's pattern matcher against the tests' reading of the same language, with case
-// counting and without, on patterns and subjects up to 2,000 characters. The plain
-// recursion would walk every way through the stars, so it only says here whether the
-// pattern is well formed and which characters each of its places takes; the places are
-// followed over every position of the subject at once. Input: pattern, a line feed, subject.
+// counting and without, on patterns and subjects up to 2,000 characters. The reading's
+// plain recursion would walk every way through the stars; here it only says whether the
+// pattern is well formed and what each place of it takes, and the places are followed
+// over all of the subject at once. Input: pattern, a line feed, subject.
 #include "fuzzinput.h"
 #include "reference_matcher.h"
 
@@ -11,6 +11,8 @@
 
 #include <QHash>
 
+#include <functional>
+#include <numeric>
 #include <vector>
 
 namespace {
@@ -32,30 +34,21 @@ QString readText(FuzzInput& in)
 // character): reach[j] says that the places read so far can take the first j characters.
 bool matchByPlaces(const QString& p, const QString& s)
 {
-    std::vector<char> reach(size_t(s.size()) + 1, 0), next;
+    std::vector<char> reach(size_t(s.size()) + 1, 0);
     reach[0] = 1;
-    for (qsizetype i = 0; i < p.size(); ++i) {
-        if (p[i] == u'*') {
-            for (size_t j = 1; j < reach.size(); ++j)
-                reach[j] |= reach[j - 1];
-            continue;
-        }
+    for (qsizetype i = 0, end = 0; i < p.size(); i = end + 1) {
         const bool negated = i + 1 < p.size() && p[i + 1] == u'!';
-        const qsizetype end = p[i] == u'[' ? p.indexOf(u']', i + 1 + negated) : i;
+        end = p[i] == u'[' ? p.indexOf(u']', i + 1 + negated) : i;
         const QString place = p.mid(i, end - i + 1);
-        i = end;
-        if (*ReferenceMatcher::match(place, {}))
-            continue; // "[]" takes no character
         QHash<QChar, bool> takes;
-        next.assign(reach.size(), 0);
-        for (qsizetype j = 0; j < s.size(); ++j)
-            if (reach[size_t(j)]) {
-                auto t = takes.find(s[j]);
-                if (t == takes.end())
-                    t = takes.insert(s[j], *ReferenceMatcher::match(place, QString(s[j])));
-                next[size_t(j) + 1] = *t;
-            }
-        reach.swap(next);
+        const auto take = [&](QChar c) {
+            return takes.contains(c) ? takes[c] : (takes[c] = *ReferenceMatcher::match(place, c));
+        };
+        if (p[i] == u'*')
+            std::partial_sum(reach.begin(), reach.end(), reach.begin(), std::logical_or<char>());
+        else if (!*ReferenceMatcher::match(place, {})) // "[]" takes no character
+            for (qsizetype j = s.size(); j >= 0; --j)
+                reach[j] = j > 0 && reach[j - 1] && take(s[j - 1]);
     }
     return reach.back();
 }
