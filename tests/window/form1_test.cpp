@@ -1,4 +1,3 @@
-#include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "helpabout/helpform.h"
 #include "window/form1.h"
@@ -29,68 +28,10 @@ protected:
     }
     Quillet* Pot(int slot) { return child<Quillet>(QStringLiteral("Pots%1").arg(slot)); }
 
-    // A real move of the mouse onto a widget, as the window system would deliver it.
-    void moveOnto(QWidget* widget)
-    {
-        const QPoint at = widget->rect().center();
-        QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(widget, &move);
-    }
-
-    qint64 pictureOf(int slot) { return Pot(slot)->picture().cacheKey(); }
-    qint64 raisedGreen() { return child<QLabel>(QStringLiteral("Image4"))->pixmap().cacheKey(); }
-    qint64 sunkenGreen() { return pictureOf(HumanBank); }
-
     Form1 form;
 };
 
 } // namespace
-
-// What the board shows at the start is pinned by the golden traces and the table of
-// controls; these are the parts of the window they do not print.
-TEST_F(MainWindow, HasItsTitleAndIconAndCannotBeResized)
-{
-    EXPECT_EQ(form.windowTitle(), QStringLiteral("TAVOK"));
-    EXPECT_FALSE(form.windowIcon().isNull());
-    EXPECT_EQ(form.minimumSize(), form.maximumSize());
-}
-
-TEST_F(MainWindow, FacesShowRaisedDiscsForCountsAndHollowsForEmptyPots)
-{
-    QTest::mouseClick(Pot(0), Qt::LeftButton);
-    EXPECT_EQ(Pot(0)->caption(), QString());
-    EXPECT_EQ(Pot(0)->Tag(), QString());
-    EXPECT_EQ(pictureOf(0), sunkenGreen());
-    EXPECT_FALSE(Pot(0)->isEnabled());
-    EXPECT_EQ(pictureOf(1), raisedGreen());
-    EXPECT_EQ(Pot(HumanBank)->caption(), QStringLiteral("0"));
-    // The computer took pot A's opposite: its empty red pot is a red hollow.
-    EXPECT_EQ(Pot(12)->caption(), QString());
-    EXPECT_EQ(pictureOf(12), pictureOf(ComputerBank));
-}
-
-TEST_F(MainWindow, HoverLookStaysOverALetterAndEndsOverTheSurface)
-{
-    moveOnto(Pot(2));
-    EXPECT_EQ(pictureOf(2), sunkenGreen());
-    EXPECT_EQ(Pot(2)->caption(), QStringLiteral("3"));
-    moveOnto(child<QLabel>(QStringLiteral("PotName2")));
-    EXPECT_EQ(pictureOf(2), sunkenGreen()) << "a letter is no part of the window's surface";
-    moveOnto(Pot(3));
-    EXPECT_EQ(pictureOf(2), raisedGreen());
-    EXPECT_EQ(pictureOf(3), sunkenGreen());
-    moveOnto(&form);
-    EXPECT_EQ(pictureOf(3), raisedGreen());
-    EXPECT_EQ(form.game().state().HoverPot, -1);
-}
-
-TEST_F(MainWindow, TheScoreBoardOpensOnAnyButtonsRelease)
-{
-    auto* score = child<Marlets::Marlet>(QStringLiteral("Score1"));
-    QTest::mouseClick(child<Quillet>(QStringLiteral("Scorex")), Qt::RightButton);
-    EXPECT_TRUE(score->isVisible());
-}
 
 // Exit closes the help window first, whether it is on the screen or hidden by its own
 // Exit, and then the main window.

@@ -8,6 +8,9 @@
 #include "window/form1.h"
 #include "window/form1_layout.h"
 
+#include "assets/pictures.h"
+#include "common/twips.h"
+
 #include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
@@ -16,6 +19,7 @@
 #include <QTest>
 
 #include <ostream>
+#include <utility>
 
 namespace {
 
@@ -32,6 +36,32 @@ char flag(bool on)
 Qt::MouseButton QtButton(int button)
 {
     return button == 2 ? Qt::RightButton : Qt::LeftButton;
+}
+
+// Whether every line of a caption stands inside its control, as its own font draws it.
+bool fits(const QWidget* control, const QString& text)
+{
+    const QFontMetrics metrics(control->font());
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& line : lines)
+        if (metrics.horizontalAdvance(line) > control->width())
+            return false;
+    return int(lines.size()) * metrics.height() <= control->height() + metrics.descent();
+}
+
+// The disc a pot's face shows: raised (G, R) or hollow (g, r), green or red.
+char discOf(const Quillet* pot)
+{
+    static const std::vector<std::pair<char, QImage>> discs{
+        {'G', Pictures::load(Pictures::DiscGreenRaised).toImage()},
+        {'g', Pictures::load(Pictures::DiscGreenSunken).toImage()},
+        {'R', Pictures::load(Pictures::DiscRedRaised).toImage()},
+        {'r', Pictures::load(Pictures::DiscRedSunken).toImage()}};
+    const QImage face = pot->picture().toImage();
+    for (const auto& [letter, disc] : discs)
+        if (face == disc)
+            return letter;
+    return '?';
 }
 
 } // namespace
@@ -86,8 +116,8 @@ bool Trace::act(const QString& verb, int argument, bool& ignored)
         ignored = !action(pot);
         return true;
     };
-    auto onControl = [&](const char* name, auto&& action) {
-        ignored = !action(child<QWidget>(name));
+    auto onControl = [&](const QString& name, auto&& action) {
+        ignored = !action(m_form.findChild<QWidget*>(name));
         return true;
     };
     if (verb == QLatin1String("click"))
@@ -98,10 +128,22 @@ bool Trace::act(const QString& verb, int argument, bool& ignored)
         return potAction([&](Quillet* p) { return releaseWidget(p, 2); });
     if (verb == QLatin1String("hover"))
         return potAction([&](Quillet* p) { return moveOver(p); });
+    if (verb == QLatin1String("letter"))
+        return onControl(argument >= 0 && argument < 6 ? QStringLiteral("PotName%1").arg(argument)
+                                                       : QString(),
+                         [&](QWidget* w) { return w && moveOver(w); });
+    if (verb == QLatin1String("controls"))
+        return m_controlsWanted = true, true;
     if (verb == QLatin1String("formmove"))
         return moveOver(&m_form), true;
     if (verb == QLatin1String("key"))
-        return pressKey(static_cast<int16_t>(argument)), true;
+        return pressKey(static_cast<int16_t>(argument), KeyClick), true;
+    if (verb == QLatin1String("keydown"))
+        return pressKey(static_cast<int16_t>(argument), KeyPress), true;
+    if (verb == QLatin1String("keyup"))
+        return pressKey(static_cast<int16_t>(argument), KeyRelease), true;
+    if (verb == QLatin1String("backtab"))
+        return QTest::keyClick(keyTarget(), Qt::Key_Tab, Qt::ShiftModifier), true;
     if (verb == QLatin1String("mess"))
         return onControl("Mess", [&](QWidget* w) { return clickWidget(w, 1); });
     if (verb == QLatin1String("undo"))
@@ -115,7 +157,7 @@ bool Trace::act(const QString& verb, int argument, bool& ignored)
     if (verb == QLatin1String("hintup"))
         return onControl("GiveHint", [&](QWidget* w) { return releaseWidget(w, 1); });
     if (verb == QLatin1String("score"))
-        return onControl("Scorex", [&](QWidget* w) { return releaseWidget(w, 1); });
+        return onControl("Scorex", [&](QWidget* w) { return releaseWidget(w, argument); });
     if (verb == QLatin1String("slider")) {
         auto* slider = child<QSlider>("StartBeads");
         ignored = !slider->isEnabled();
@@ -164,12 +206,30 @@ bool Trace::moveOver(QWidget* widget)
     return true;
 }
 
-void Trace::pressKey(int16_t code)
+QWidget* Trace::keyTarget() const
 {
     QWidget* focus = QApplication::focusWidget();
-    QWidget* target = focus && focus->window() == &m_form ? focus : &m_form;
-    const int key = QtKeyFor(code);
-    QTest::keyClick(target, static_cast<Qt::Key>(key ? key : Qt::Key_unknown));
+    return focus && focus->window() == &m_form ? focus : &m_form;
+}
+
+void Trace::pressKey(int16_t code, KeyStroke stroke)
+{
+    const int qtKey = QtKeyFor(code);
+    const auto key = static_cast<Qt::Key>(qtKey ? qtKey : Qt::Key_unknown);
+    if (stroke != KeyRelease)
+        QTest::keyPress(keyTarget(), key);
+    if (stroke != KeyPress)
+        QTest::keyRelease(keyTarget(), key);
+}
+
+// The control the keys are on, by the name of the window's control.
+std::string Trace::focused() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    const auto* list = child<UserControl1>("MovesList");
+    if (focus && list->isAncestorOf(focus))
+        focus = list;
+    return focus ? shown(focus->objectName()).toStdString() : "none";
 }
 
 void Trace::dragSlider(int value)
@@ -183,8 +243,36 @@ void Trace::dragSlider(int value)
 void Trace::releasePause()
 {
     auto* mess = child<Quillet>("Mess");
-    m_pauses << mess->caption();
+    m_pauses << QString::fromStdString(focused()) + QLatin1Char(' ') + mess->caption();
     QTest::mouseClick(mess, Qt::LeftButton);
+}
+
+// The window, then each control on it and in its frames, in the order they were made:
+// place and size in pixels, font, colours, shown or not, tooltip.
+void Trace::printControls()
+{
+    m_out << "window " << m_form.windowTitle().toStdString() << " icon "
+          << flag(!m_form.windowIcon().isNull()) << " size " << m_form.width() << 'x'
+          << m_form.height() << " fixed " << flag(m_form.minimumSize() == m_form.maximumSize())
+          << '\n';
+    for (QWidget* w : m_form.findChildren<QWidget*>()) {
+        QWidget* parent = w->parentWidget();
+        if (w->objectName().isEmpty() ||
+            (parent != &m_form &&
+             !(qobject_cast<QGroupBox*>(parent) && parent->parentWidget() == &m_form)))
+            continue;
+        const auto* face = qobject_cast<const Quillet*>(w);
+        const QColor fore = face ? face->forecolor() : w->palette().color(QPalette::WindowText);
+        const bool filled = face || w->autoFillBackground();
+        const QColor back = face ? face->backcolor() : w->palette().color(QPalette::Window);
+        m_out << "control " << w->objectName().toStdString() << ' ' << w->x() << ',' << w->y()
+              << ' ' << w->width() << 'x' << w->height() << " font "
+              << w->font().family().toStdString() << ' ' << w->font().pointSizeF()
+              << (w->font().bold() ? " bold" : "") << " text " << fore.name().toStdString()
+              << " back " << (filled ? back.name().toStdString() : "-")
+              << (w->isVisible() ? " shown" : " hidden") << " tip "
+              << shown(w->toolTip()).toStdString() << '\n';
+    }
 }
 
 void Trace::printState(const QString& heading)
@@ -196,7 +284,10 @@ void Trace::printState(const QString& heading)
         pots += ' ' + shown(Pot(s)->caption()).toStdString();
         enabled += flag(Pot(s)->isEnabled());
     }
-    m_out << pots << '\n' << enabled << '\n';
+    std::string faces = "faces ";
+    for (int s = 0; s < 14; ++s)
+        faces += discOf(Pot(s));
+    m_out << pots << '\n' << enabled << '\n' << faces << '\n';
 
     auto* mess = child<Quillet>("Mess");
     m_out << "mess " << flag(mess->isEnabled()) << ' ' << shown(mess->caption()).toStdString()
@@ -223,9 +314,25 @@ void Trace::printState(const QString& heading)
     m_out << "hand " << where << '\n';
 
     auto* score = child<Marlets::Marlet>("Score1");
-    m_out << "score " << score->wins() << ' ' << score->losses() << ' ' << score->draws() << '\n';
-    for (const QString& caption : m_pauses)
-        m_out << "pause " << shown(caption).toStdString() << '\n';
+    m_out << "score " << score->wins() << ' ' << score->losses() << ' ' << score->draws()
+          << (score->isVisible() ? " shown" : "") << '\n';
+    if (std::exchange(m_controlsWanted, false))
+        printControls();
+    for (const QString& pause : m_pauses)
+        m_out << "pause focus " << pause.toStdString() << '\n';
+    m_out << "focus " << focused() << '\n';
+    // A caption cut short is said; a whole game of them says nothing.
+    for (const QWidget* w : m_form.findChildren<QWidget*>()) {
+        const auto* face = qobject_cast<const Quillet*>(w);
+        const auto* label = qobject_cast<const QLabel*>(w);
+        const QString text = face ? face->caption() : label ? label->text() : QString();
+        if (w->isVisible() && !text.isEmpty() && !fits(w, text))
+            m_out << "overflow " << w->objectName().toStdString() << ' ' << text.toStdString()
+                  << '\n';
+    }
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window != &m_form && window->isVisible())
+            m_out << "open " << window->windowTitle().toStdString() << '\n';
 
     const ListState& list = child<UserControl1>("MovesList")->state();
     m_out << "list " << list.ItemCount << '\n';

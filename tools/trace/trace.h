@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <string>
 
 class Form1;
 class Quillet;
@@ -27,10 +28,14 @@ private:
     bool pressWidget(QWidget* widget, int button);
     bool releaseWidget(QWidget* widget, int button);
     bool moveOver(QWidget* widget);
-    void pressKey(int16_t code);
+    enum KeyStroke { KeyClick, KeyPress, KeyRelease };
+    void pressKey(int16_t code, KeyStroke stroke);
+    QWidget* keyTarget() const;
+    std::string focused() const;
     void dragSlider(int value);
     void releasePause();
     void printState(const QString& heading);
+    void printControls();
 
     Quillet* Pot(int slot) const;
     template <typename T> T* child(const char* name) const;
@@ -38,4 +43,5 @@ private:
     Form1& m_form;
     std::ostream& m_out;
     QStringList m_pauses;
+    bool m_controlsWanted = false;
 };
