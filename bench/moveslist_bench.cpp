@@ -5,7 +5,7 @@
 // the insert paints no item at all. The second anchor lays them out first, which is
 // what the view does before the user sees the new line.
 
-#include "moveslist/moveslistblock.h"
+#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
 
 #include <QApplication>

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstring>
+#include <cmath>
 #include <limits>
 
 namespace lbblock {
@@ -75,9 +76,13 @@ qint64 readValue(const Reader& in, qint64 at, PropertyEntry& entry)
     case PropertyType::Long:
         entry.value = in.number<int32_t>(at);
         return 4;
-    case PropertyType::Single:
-        entry.value = in.number<float>(at);
+    case PropertyType::Single: {
+        const float number = in.number<float>(at);
+        if (!std::isfinite(number))
+            refuse(); // a single that is no finite number
+        entry.value = number;
         return 4;
+    }
     case PropertyType::Text: {
         const auto characters = static_cast<qint64>(in.number<uint32_t>(at));
         in.need(at + 4, characters * 2 + 2);

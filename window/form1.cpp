@@ -6,7 +6,7 @@
 #include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "moveslist/listerror.h"
-#include "moveslist/moveslistblock.h"
+#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
 
 #include <QAccessible>

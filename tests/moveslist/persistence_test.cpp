@@ -1,6 +1,6 @@
 #include "moveslist/lbblock.h"
 #include "moveslist/listerror.h"
-#include "moveslist/moveslistblock.h"
+#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
 
 #include <gtest/gtest.h>
@@ -147,6 +147,8 @@ TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
         unterminated,
         with<uint16_t>(V, FontSizeEntry, 5), // the last value longer than what is left
         badPadding,
+        with<uint32_t>(V, FontSizeEntry + 28, 0x7F800001u), // a single that is no number
+        with<uint32_t>(V, FontSizeEntry + 28, 0xFF800000u), // an infinite single
     };
     for (size_t i = 0; i < std::size(damaged); ++i)
         EXPECT_EQ(readError(damaged[i]), ListErrorCode::InvalidFileFormat) << "damage " << i;

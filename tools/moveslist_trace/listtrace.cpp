@@ -3,7 +3,7 @@
 #include "moveslist/itemrecord.h"
 #include "moveslist/lbblock.h"
 #include "moveslist/listerror.h"
-#include "moveslist/moveslistblock.h"
+#include "window/moveslistblock.h"
 #include "moveslist/olecolor.h"
 #include "moveslist/propertybag.h"
 #include "moveslist/usercontrol1.h"

@@ -1,4 +1,4 @@
-#include "moveslist/moveslistblock.h"
+#include "window/moveslistblock.h"
 
 #include "moveslist/lbblock.h"
 #include "moveslist/usercontrol1.h"
