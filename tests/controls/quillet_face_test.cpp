@@ -135,20 +135,29 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
     EXPECT_EQ(hand.picture().cacheKey(), pot.picture().cacheKey());
     EXPECT_EQ(blueAcrossTheMiddle(rendered(hand)), 20);
 
-    // A picture with no clear part at all fills the face it is too large for.
+    // A picture with no clear part at all fills the face it is too large for, up to
+    // its one opaque edge, and stays in the middle of a taller face.
     pot.place(0, 0, 555, 555);
+    pot.borderleft(Qt::transparent);
+    pot.bordertop(Qt::transparent);
+    pot.borderbottom(Qt::transparent);
     QPixmap solid(64, 64);
     solid.fill(Qt::blue);
     ASSERT_FALSE(solid.hasAlphaChannel());
     pot.picture(solid);
-    const int across = blueAcrossTheMiddle(rendered(pot));
-    EXPECT_GE(across, pot.width() - 2);
-    EXPECT_LE(across, pot.width());
+    EXPECT_EQ(blueAcrossTheMiddle(rendered(pot)), pot.width() - 1);
+    for (const bool tall : {true, false}) {
+        pot.resize(tall ? QSize(37, 50) : QSize(50, 37));
+        const QImage face = rendered(pot);
+        int first = 0;
+        while (first < 50 &&
+               face.pixelColor(tall ? QPoint(18, first) : QPoint(first, 18)) != Qt::blue)
+            ++first;
+        EXPECT_EQ(first, (50 - 37) / 2) << (tall ? "tall" : "wide");
+    }
+    pot.place(0, 0, 555, 555);
     // Visible only in its first column, or in a short stroke on its first or last row,
     // it still shrinks to bring that in, to the face's end (the clear edges let it show).
-    pot.borderleft(Qt::transparent);
-    pot.bordertop(Qt::transparent);
-    pot.borderbottom(Qt::transparent);
     for (const QRect line : {QRect(0, 0, 1, 64), QRect(24, 0, 16, 1), QRect(24, 63, 16, 1)}) {
         QImage edge(64, 64, QImage::Format_ARGB32);
         edge.fill(Qt::transparent);
