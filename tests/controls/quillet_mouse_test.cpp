@@ -1,5 +1,6 @@
 #include "controls/quillet.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
 
@@ -140,4 +141,20 @@ TEST_F(QuilletMouse, AHandlerThatFailsOrTurnsTheFaceOffDoesNotBreakTheEvent)
     QObject::connect(right, &Quillet::MouseUp, right, [this] { right->enabled(false); });
     QTest::mouseClick(right, Qt::LeftButton, {}, QPoint(1, 1));
     EXPECT_EQ(rightHeard, QStringList({"MouseDown 1 0 15 15", "MouseUp 1 0 15 15"}));
+}
+
+// Space works the face from its middle; the focus gone with Space still down lets the
+// press go without a click, as a release off the face would.
+TEST_F(QuilletMouse, SpaceHeldAsTheFocusLeavesReleasesWithoutAClick)
+{
+    QApplication::setActiveWindow(&surface);
+    left->setFocusPolicy(Qt::TabFocus);
+    right->setFocusPolicy(Qt::TabFocus);
+    left->setFocus();
+    QTest::keyClick(left, Qt::Key_Space);
+    QTest::keyPress(left, Qt::Key_Space);
+    right->setFocus();
+    const QString middle = QStringLiteral(" 1 0 277.5 277.5");
+    EXPECT_EQ(leftHeard, QStringList({"MouseDown" + middle, "MouseUp" + middle, "Click",
+                                      "MouseDown" + middle, "MouseUp" + middle}));
 }
