@@ -92,6 +92,8 @@ TEST_F(ScoreBoard, ItsOwnCloseHidesItAndScorexBringsItBackInFront)
     const QPoint middle = Score1->geometry().center();
     auto* close = Score1->findChild<QToolButton*>("close");
     ASSERT_NE(close, nullptr);
+    // The close button lies flat on the black band until the mouse comes.
+    EXPECT_EQ(close->grab().toImage().pixelColor(2, close->height() / 2), QColor(Qt::black));
     QTest::mouseClick(close, Qt::LeftButton);
     EXPECT_FALSE(Score1->isVisible());
     EXPECT_EQ(window.childAt(middle), movesList);
