@@ -1,7 +1,7 @@
 // The engine driven by any sequence of what a user can do in the window, also in batches
-// inside the pause of a computer's move, before and after the click that releases it. After each
-// step the board is the one the rules give, no bead came or went, and the faces, the bar and the
-// game's end agree with it.
+// inside the pause of a computer's move, before and after the click that releases it.
+// After each step the board is the one the rules give, no bead came or went, and the
+// faces, the bar, the slider and the game's end agree with it.
 #include "fuzzinput.h"
 #include "recording_screen.h"
 #include "reference_rules.h"

@@ -1,18 +1,11 @@
 // The list's pattern matcher against the tests' reading of the same language, with case
-// counting and without, on patterns and subjects up to 2,000 characters. The reading's
-// plain recursion would walk every way through the stars; here it only says whether the
-// pattern is well formed and what each place of it takes, and the places are followed
-// over all of the subject at once. Input: pattern, a line feed, subject.
+// counting and without, up to 2,000 characters each. Input: pattern, a line feed, subject.
 #include "fuzzinput.h"
 #include "reference_matcher.h"
 
 #include "moveslist/likepattern.h"
 #include "moveslist/listerror.h"
 
-#include <QHash>
-
-#include <functional>
-#include <numeric>
 #include <vector>
 
 namespace {
@@ -30,25 +23,29 @@ QString readText(FuzzInput& in)
     return text;
 }
 
-// A well-formed pattern read one place at a time (a star, a list in brackets, or one
-// character): reach[j] says that the places read so far can take the first j characters.
+// The reading's recursion would walk every way through the stars; it only says what each
+// place takes here, once a character, and reach[j] follows the places over all of s at once.
 bool matchByPlaces(const QString& p, const QString& s)
 {
-    std::vector<char> reach(size_t(s.size()) + 1, 0);
+    std::vector<qsizetype> first(size_t(s.size()));
+    for (qsizetype j = 0; j < s.size(); ++j)
+        first[j] = s.indexOf(s[j]);
+    std::vector<char> reach(size_t(s.size()) + 1, 0), takes;
     reach[0] = 1;
     for (qsizetype i = 0, end = 0; i < p.size(); i = end + 1) {
-        const bool negated = i + 1 < p.size() && p[i + 1] == u'!';
-        end = p[i] == u'[' ? p.indexOf(u']', i + 1 + negated) : i;
+        end = p[i] == u'[' ? p.indexOf(u']', i + (p.mid(i + 1).startsWith(u'!') ? 2 : 1)) : i;
         const QString place = p.mid(i, end - i + 1);
-        QHash<QChar, bool> takes;
-        const auto take = [&](QChar c) {
-            return takes.contains(c) ? takes[c] : (takes[c] = *ReferenceMatcher::match(place, c));
+        takes.assign(reach.size(), -1);
+        const auto take = [&](qsizetype j) {
+            char& t = takes[first[j]];
+            return t < 0 ? (t = *ReferenceMatcher::match(place, s[j])) : t;
         };
         if (p[i] == u'*')
-            std::partial_sum(reach.begin(), reach.end(), reach.begin(), std::logical_or<char>());
+            for (size_t j = 1; j < reach.size(); ++j)
+                reach[j] |= reach[j - 1];
         else if (!*ReferenceMatcher::match(place, {})) // "[]" takes no character
             for (qsizetype j = s.size(); j >= 0; --j)
-                reach[j] = j > 0 && reach[j - 1] && take(s[j - 1]);
+                reach[j] = j > 0 && reach[j - 1] && take(j - 1);
     }
     return reach.back();
 }

@@ -26,3 +26,15 @@ struct FuzzInput {
     std::fprintf(stderr, "%s\n", what.c_str());
     std::abort();
 }
+
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+
+// One offscreen application for the whole run of a target that builds widgets.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    static QApplication app(*argc, *argv);
+    return 0;
+}
+#endif

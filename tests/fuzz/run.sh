@@ -10,9 +10,9 @@ findings="$build/fuzz-findings"
 
 # Each target's longest useful input: longer ones only repeat what is already there.
 # Patterns and subjects go up to 2,000 characters each, with a line feed between them.
-declare -A maxlen=([fuzz_pattern]=4001 [fuzz_block]=4096 [fuzz_game]=512 [fuzz_list]=1024
-    [fuzz_control]=4096)
-targets=(fuzz_pattern fuzz_block fuzz_game fuzz_list fuzz_control)
+# An input that runs past 10 s is a finding as well, a slow match say.
+declare -A maxlen=([fuzz_pattern]=4001 [fuzz_block]=4096 [fuzz_game]=512 [fuzz_list]=1024)
+targets=(fuzz_pattern fuzz_block fuzz_game fuzz_list)
 
 export ASAN_OPTIONS=abort_on_error=1:detect_leaks=1
 export LSAN_OPTIONS=suppressions=$here/../sanitize.supp:print_suppressions=0
