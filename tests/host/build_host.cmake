@@ -8,6 +8,7 @@ function(step)
     message("${out}")
 endfunction()
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
-step(${CMAKE_COMMAND} -S ${HOST} -B ${WORK}/host -G Ninja -DCMAKE_PREFIX_PATH=${WORK}/prefix)
+step(${CMAKE_COMMAND} -S ${HOST} -B ${WORK}/host -G Ninja -DCMAKE_PREFIX_PATH=${WORK}/prefix
+     "-DCMAKE_CXX_FLAGS=${HOST_FLAGS}")
 step(${CMAKE_COMMAND} --build ${WORK}/host)
 step(${WORK}/host/list-host)
