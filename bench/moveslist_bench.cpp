@@ -5,8 +5,8 @@
 // the insert paints no item at all. The second anchor lays them out first, which is
 // what the view does before the user sees the new line.
 
-#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
+#include "window/moveslistblock.h"
 
 #include <QApplication>
 #include <QListWidget>

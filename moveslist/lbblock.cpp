@@ -6,8 +6,8 @@
 #include <QtEndian>
 
 #include <array>
-#include <cstring>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace lbblock {

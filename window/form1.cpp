@@ -6,8 +6,8 @@
 #include "controls/marlet.h"
 #include "controls/quillet.h"
 #include "moveslist/listerror.h"
-#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
+#include "window/moveslistblock.h"
 
 #include <QAccessible>
 #include <QApplication>

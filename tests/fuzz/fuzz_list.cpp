@@ -4,8 +4,8 @@
 #include "fuzzinput.h"
 
 #include "moveslist/listerror.h"
-#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
+#include "window/moveslistblock.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "moveslist/lbblock.h"
 #include "moveslist/listerror.h"
-#include "window/moveslistblock.h"
 #include "moveslist/usercontrol1.h"
+#include "window/moveslistblock.h"
 
 #include <gtest/gtest.h>
 
@@ -48,7 +48,7 @@ int readError(const QByteArray& block)
     return errorCode([&] { lbblock::read(block); });
 }
 
-TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
+TEST(PropertyBlock, TheLogsBlockRoundTrips)
 {
     const PropertyBag bag = lbblock::read(MovesListVector);
     ASSERT_EQ(bag.entries().size(), 4u);
@@ -68,7 +68,7 @@ TEST(PropertyBlock, ReadsAndWritesTheLogsBlock)
     EXPECT_EQ(lbblock::write(bag).toHex(), MovesListVector.toHex());
 }
 
-TEST(PropertyBlock, EveryKindOfValueTravelsAndALoneEntryToo)
+TEST(PropertyBlock, EveryKindOfValueRoundTrips)
 {
     PropertyBag bag;
     bag.writeProperty("Small", PropertyType::Integer, -2, 0);
@@ -110,7 +110,7 @@ TEST(PropertyBlock, AKeyTooLongOnceLoweredIsRefused)
     EXPECT_EQ(errorCode([&] { lbblock::write(grows); }), ListErrorCode::Overflow);
 }
 
-TEST(DamagedPropertyBlock, EveryCutIsRefusedAndNoControlIsMade)
+TEST(DamagedPropertyBlock, EveryCutIsRefused)
 {
     for (int length = 0; length < MovesListVector.size(); ++length)
         EXPECT_EQ(readError(MovesListVector.left(length)), ListErrorCode::InvalidFileFormat)
@@ -119,7 +119,7 @@ TEST(DamagedPropertyBlock, EveryCutIsRefusedAndNoControlIsMade)
               ListErrorCode::InvalidFileFormat);
 }
 
-TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
+TEST(DamagedPropertyBlock, BrokenPartsAreRefused)
 {
     const QByteArray V = MovesListVector;
     QByteArray signature = V;
@@ -132,11 +132,10 @@ TEST(DamagedPropertyBlock, BrokenHeadersAndEntriesAreRefused)
     ASSERT_EQ(readError(badPadding), 0);
     badPadding[badPadding.size() - 1] = 1;
     const QByteArray damaged[] = {
-        signature,
-        with<uint16_t>(V, 3, 8),      // block kind
-        with<uint32_t>(V, 5, 165),    // byte count
-        with<uint32_t>(V, 9, 0xB294), // marker
-        with<uint32_t>(V, 13, 160),   // second byte count
+        signature, with<uint16_t>(V, 3, 8), // block kind
+        with<uint32_t>(V, 5, 165),          // byte count
+        with<uint32_t>(V, 9, 0xB294),       // marker
+        with<uint32_t>(V, 13, 160),         // second byte count
         // Both counts agree but the block has bytes past its last entry.
         with<uint32_t>(with<uint32_t>(V + QByteArray(4, '\0'), 5, 168), 13, 168),
         with<uint16_t>(V, FirstEntry, 7),                     // unknown type

@@ -3,11 +3,11 @@
 #include "moveslist/itemrecord.h"
 #include "moveslist/lbblock.h"
 #include "moveslist/listerror.h"
-#include "window/moveslistblock.h"
 #include "moveslist/olecolor.h"
 #include "moveslist/propertybag.h"
 #include "moveslist/usercontrol1.h"
 #include "tools/moveslist_trace/listprobe.h"
+#include "window/moveslistblock.h"
 
 #include <QApplication>
 #include <QPushButton>
