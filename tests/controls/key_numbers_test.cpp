@@ -30,7 +30,7 @@ TEST(KeyNumbers, EveryNumberATraceCanPressComesBackAsItself)
     EXPECT_GT(pressable, 26 + 10 + 12 + 20);
 }
 
-TEST(KeyNumbers, TheNumberPadAndTheShiftedTabHaveTheirOwnReading)
+TEST(KeyNumbers, SpecialKeysHaveTheirOwnReading)
 {
     EXPECT_EQ(numberOf(Qt::Key_Enter, Qt::KeypadModifier), key::Return);
     EXPECT_EQ(numberOf(Qt::Key_Return), key::Return);

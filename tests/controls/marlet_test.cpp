@@ -58,7 +58,7 @@ std::array<int, 3> record(const Marlets::Marlet& board)
 } // namespace
 
 // Games that end while the board is open show at once.
-TEST_F(ScoreBoard, EachWriteCountsOneGameAndTheOpenBoardFollows)
+TEST_F(ScoreBoard, EachGameWrittenShowsOnTheOpenBoard)
 {
     open();
     EXPECT_EQ(shown("title"), "Tavok");
@@ -76,7 +76,7 @@ TEST_F(ScoreBoard, EachWriteCountsOneGameAndTheOpenBoardFollows)
     EXPECT_EQ(record(*Score1), (std::array{2, 1, 1}));
 }
 
-TEST_F(ScoreBoard, OptionAShowsTheShareAndOptionBTheDrawnGames)
+TEST_F(ScoreBoard, TheOptionChoosesTheLastColumn)
 {
     Score1->ScoreOptionA(false);
     open();
@@ -86,7 +86,7 @@ TEST_F(ScoreBoard, OptionAShowsTheShareAndOptionBTheDrawnGames)
     EXPECT_EQ(shown("drawn"), "(not shown)");
 }
 
-TEST_F(ScoreBoard, ItsOwnCloseHidesItAndScorexBringsItBackInFront)
+TEST_F(ScoreBoard, AClosedBoardComesBackInFront)
 {
     open();
     const QPoint middle = Score1->geometry().center();

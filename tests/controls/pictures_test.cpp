@@ -28,7 +28,7 @@ QColor discAt(const QImage& image, double degrees, double distance)
 
 } // namespace
 
-TEST(Pictures, EachIsLinkedInAtOneAndTwoTimesWithAClearSurround)
+TEST(Pictures, EachIsLinkedInAtBothScales)
 {
     const std::pair<QString, int> all[] = {
         {Pictures::Board, 32},           {Pictures::Hand, 32},

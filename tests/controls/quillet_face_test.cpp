@@ -54,7 +54,7 @@ int blueAcrossTheMiddle(const QImage& image)
 
 // Raised, each edge is one pixel of its own colour at ratio 1 and 2. Held down, the
 // edges change places; turned off with the button still down, the face comes back up.
-TEST(QuilletFace, EdgesStandRaisedAndSinkWhileHeld)
+TEST(QuilletFace, EdgesSinkWhileHeld)
 {
     QWidget surface;
     auto* pot = new Pot(&surface);
@@ -85,7 +85,7 @@ TEST(QuilletFace, EdgesStandRaisedAndSinkWhileHeld)
 
 // The Tag is the caller's and leaves the face alone. A plain button greys its caption
 // while off; a bank keeps its count readable.
-TEST(QuilletFace, CaptionShowsAtOnceAndGreysOnlyOnAPlainButton)
+TEST(QuilletFace, OnlyAPlainButtonGreysItsCaption)
 {
     Pot bank;
     bank.picture(framedInClear(32, 2));
@@ -126,7 +126,7 @@ TEST(QuilletFace, CaptionShowsAtOnceAndGreysOnlyOnAPlainButton)
 
 // A picture read from one face can be set on another. The hand, 32 pixels on a face 25
 // wide, lets its clear margin hang over the edges; only a larger visible part shrinks.
-TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
+TEST(QuilletFace, PicturesShrinkOnlyWhenTheirVisiblePartIsTooLarge)
 {
     Quillet hand, pot;
     hand.resize(25, 37);
@@ -176,7 +176,7 @@ TEST(QuilletFace, PicturesAreSharedAndShrinkOnlyWhenTheirVisiblePartIsTooLarge)
 
 // The hand goes where a letter stands, in twips that need not fall on a pixel; moved by
 // pixels behind its back, it tells the twips of those pixels.
-TEST(QuilletPlace, TwipsInAndTheSameTwipsOut)
+TEST(QuilletPlace, PlaceRoundTripsInTwips)
 {
     Pot pot;
     pot.place(1530, 1785, 555, 555);

@@ -61,7 +61,7 @@ protected:
 
 // Only the left button clicks; the right and middle buttons are 2 and 4, shift 1, ctrl
 // 2, alt 4, and moves tell the buttons held. 15 twips to the pixel.
-TEST_F(QuilletMouse, ButtonsShiftsAndPlacesArriveInTheGamesNumbers)
+TEST_F(QuilletMouse, MouseEventsArriveInTheGamesNumbers)
 {
     QTest::mousePress(left, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(10, 5));
     QTest::mouseRelease(left, Qt::LeftButton, Qt::AltModifier, QPoint(12, 7));

@@ -7,7 +7,7 @@
 
 // An inch is 1440 twips on the primary screen. Pixels come back as they went in; halves
 // go to the even pixel, and each side of a rectangle rounds on its own.
-TEST(Twips, AnInchIs1440AndHalvesGoToTheEvenPixel)
+TEST(Twips, FifteenTwipsMakeAPixel)
 {
     const float p = Twips::perPixel();
     EXPECT_FLOAT_EQ(p * static_cast<float>(QGuiApplication::primaryScreen()->logicalDotsPerInch()),

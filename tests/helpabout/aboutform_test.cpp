@@ -43,7 +43,7 @@ bool staysOpenAfter(const Gesture& gesture)
 
 } // namespace
 
-TEST(AboutWindow, NamesTheGameItsMakerAndItsVersion)
+TEST(AboutWindow, NamesTheGame)
 {
     AboutForm about;
     EXPECT_EQ(about.windowTitle(), QStringLiteral("About TAVOK"));
@@ -64,7 +64,7 @@ TEST(AboutWindow, NamesTheGameItsMakerAndItsVersion)
 
 // OK, a press on the surface, a click on the text and the frame close it; the picture,
 // the version, a press on the text or a release off it do not.
-TEST(AboutWindow, ClosesFourWaysAndNoOther)
+TEST(AboutWindow, ClosesFourWaysOnly)
 {
     const std::vector<std::tuple<const char*, Gesture, bool>> ways{
         {"OK", [](AboutForm& a) { QTest::mouseClick(a.findChild<QPushButton*>(), Qt::LeftButton); },

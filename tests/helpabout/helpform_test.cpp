@@ -52,7 +52,7 @@ void runDeferredDeletes()
 
 // The window's Back and Forward walk the jumps inside the page; at the plain page Back
 // does nothing, also with a history behind it.
-TEST_F(HelpWindow, BackAndForwardActOnlyAfterAJumpInsideThePage)
+TEST_F(HelpWindow, HistoryButtonsWaitForAJump)
 {
     EXPECT_EQ(help->windowTitle(), QStringLiteral("Tavok Help"));
     EXPECT_TRUE(pageShows(view, QStringLiteral("first version")));
@@ -113,7 +113,7 @@ TEST_F(HelpWindow, AWindowTooSmallLeavesTheBrowserAsItWas)
     EXPECT_EQ(browser->size(), QSize(width, before.height()));
 }
 
-TEST_F(HelpWindow, ExitHidesAndKeepsTheWindowClosingEvenAHiddenOneDestroysIt)
+TEST_F(HelpWindow, ExitHidesWhereClosingDestroys)
 {
     clickLink(view, QStringLiteral("#first"));
     click(QStringLiteral("Exit"));

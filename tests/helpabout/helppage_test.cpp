@@ -48,7 +48,7 @@ TEST_F(HelpPage, EveryLinkLeadsToAPlaceOnThePage)
     }
 }
 
-TEST_F(HelpPage, NamesEveryControlAndMessageAsTheGameShowsThem)
+TEST_F(HelpPage, NamesEveryTextAsTheGameShowsIt)
 {
     const QString text = document.toPlainText();
     for (const char* words :

@@ -44,7 +44,7 @@ public slots:
 
 } // namespace
 
-TEST_F(Browser, AJumpAddsThePlaceToTheAddressAndBackAndForwardWalkTheJumps)
+TEST_F(Browser, JumpsAreStepsOfTheHistory)
 {
     EXPECT_EQ(browser.LocationURL(), page.address());
     browser.GoBack();
@@ -103,7 +103,7 @@ TEST_F(Browser, LinksOutOfThePageOpenNothing)
     EXPECT_TRUE(pageShows(view, QStringLiteral("first version")));
 }
 
-TEST_F(Browser, NavigateReadsTheFileAfreshAndFindsPicturesBesideIt)
+TEST_F(Browser, NavigateReadsTheFileAfresh)
 {
     page.rewrite(QStringLiteral("second version"));
     browser.Navigate(page.path());
@@ -125,7 +125,7 @@ TEST_F(Browser, PicturesComeFromBesideThePageAtTheScreensRatio)
     EXPECT_EQ(picture.pixelColor(0, 0), ratio > 1 ? QColor(Qt::red) : QColor(Qt::green));
 }
 
-TEST_F(Browser, AMissingPageIsSaidInsteadOfTheOldOneAndKeepsItsAddress)
+TEST_F(Browser, AMissingPageIsSaid)
 {
     browser.Navigate(page.path());
     ASSERT_FALSE(view->toPlainText().isEmpty());
