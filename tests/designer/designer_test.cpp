@@ -43,6 +43,12 @@ TEST(DesignerPlugin, OffersTheListWithItsStoredDefaults)
                            {"BackColor", int(0x8000000F)},
                            {"GridColor", 0},
                            {"ToolTip", false}});
+    // What Designer's property editor may type beyond the control's range leaves the
+    // property as it was.
+    made->setProperty("RowHeight", 300);
+    made->setProperty("RowHeight", 0);
+    made->setProperty("BorderStyle", 2);
+    expectSettings(*made, {{"RowHeight", 300}, {"BorderStyle", 1}});
 }
 
 TEST(DesignerPlugin, AFormSavedWithTheListLoadsWithItsSettings)
