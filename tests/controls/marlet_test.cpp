@@ -94,6 +94,12 @@ TEST_F(ScoreBoard, AClosedBoardComesBackInFront)
     ASSERT_NE(close, nullptr);
     // The close button lies flat on the black band until the mouse comes.
     EXPECT_EQ(close->grab().toImage().pixelColor(2, close->height() / 2), QColor(Qt::black));
+    // The band's title starts 6 pixels in; the button keeps a pixel of black round it.
+    const QWidget* band = close->parentWidget();
+    EXPECT_EQ(band->findChild<QLabel*>("title")->x(), 6);
+    EXPECT_EQ(close->y(), 1);
+    EXPECT_EQ(band->width() - 1 - close->geometry().right(), 1);
+    EXPECT_EQ(band->height() - 1 - close->geometry().bottom(), 1);
     QTest::mouseClick(close, Qt::LeftButton);
     EXPECT_FALSE(Score1->isVisible());
     EXPECT_EQ(window.childAt(middle), movesList);
