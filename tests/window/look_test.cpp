@@ -80,6 +80,9 @@ TEST_F(Look, TheLogSaysWhoseEachRowIs)
         EXPECT_EQ(where.top(), bottom < 0 ? where.top() : bottom + 1) << "row " << i;
         bottom = where.bottom();
     }
+    // The list's own parts, the head and the bar, are no rows of it.
+    for (QWidget* part : list->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        EXPECT_EQ(log->indexOfChild(QAccessible::queryAccessibleInterface(part)), -1);
 
     // A row a reader holds follows its item as new lines come on top, out of view when
     // the view is full, and is gone with the clearing of the log.
