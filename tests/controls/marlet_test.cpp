@@ -97,6 +97,8 @@ TEST_F(ScoreBoard, AClosedBoardComesBackInFront)
     // The band's title starts 6 pixels in; the button keeps a pixel of black round it.
     const QWidget* band = close->parentWidget();
     EXPECT_EQ(band->findChild<QLabel*>("title")->x(), 6);
+    EXPECT_EQ(Score1->grab().toImage().pixelColor(band->mapTo(Score1, QPoint(1, 1))),
+              QColor(Qt::black));
     EXPECT_EQ(close->y(), 1);
     EXPECT_EQ(band->width() - 1 - close->geometry().right(), 1);
     EXPECT_EQ(band->height() - 1 - close->geometry().bottom(), 1);
