@@ -67,7 +67,9 @@ TEST(QuilletFace, EdgesSinkWhileHeld)
         EXPECT_EQ(image.pixelColor(w / 2, h - ratio), BottomEdge);
         EXPECT_EQ(image.pixelColor(w / 2, ratio), Face);
         EXPECT_EQ(image.pixelColor(w - 1 - ratio, h - 1 - ratio), Face);
-        // The shadow edges own the two far corners, as on a raised key.
+        // The shadow edges own the two far corners, as on a raised key; the left edge
+        // owns the near one.
+        EXPECT_EQ(image.pixelColor(0, 0), LeftEdge);
         EXPECT_EQ(image.pixelColor(w - 1, 0), RightEdge);
         EXPECT_EQ(image.pixelColor(0, h - 1), BottomEdge);
     }
