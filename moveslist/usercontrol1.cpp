@@ -107,8 +107,6 @@ UserControl1* UserControl1::fromBlock(const QByteArray& block, QWidget* parent)
         // Pixels that no widget can have are an overflow, as for any number too large.
         list->resize(moveslist::to32(width * twipsPerExtent / list->screenTwipsX()),
                      moveslist::to32(height * twipsPerExtent / list->screenTwipsY()));
-        if (list->size() != list->m_laidOutSize)
-            list->UserControl_Resize();
     }
     return list.release();
 }
@@ -170,9 +168,8 @@ const QImage& UserControl1::canvas() const
 void UserControl1::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    // A height written by the list itself has already been laid out inside the write.
-    if (size() != m_laidOutSize)
-        UserControl_Resize();
+    // A size written through the list has already been laid out inside the write.
+    layOutNewSize();
 }
 
 void UserControl1::paintEvent(QPaintEvent* event)

@@ -65,6 +65,13 @@ public:
     // the block's extent. Its rows show once Mode is assigned.
     static UserControl1* fromBlock(const QByteArray& block, QWidget* parent = nullptr);
 
+    // A host's size write is laid out inside the write, hidden or shown: Qt itself
+    // delivers a hidden widget's new size only when it is shown.
+    void resize(int w, int h);
+    void resize(const QSize& size);
+    void setGeometry(int x, int y, int w, int h);
+    void setGeometry(const QRect& rect);
+
     bool Enabled() const;
     void Enabled(bool New_Enabled);
 
@@ -269,6 +276,7 @@ private:
     // Layout and scrolling.
     void UserControl_Resize();
     void settleSize();
+    void layOutNewSize();
     void VScroll1_Change();
     void FirstItemSetup();
     void FitRows();

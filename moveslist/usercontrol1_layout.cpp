@@ -59,9 +59,36 @@ void UserControl1::UserControl_Resize()
         ignoringFailure([&] { setScrollValue(1); });
 }
 
-// A size a host set while the control was hidden is laid out before anything else
-// reaches the control, as it would have been inside that write: the platform runs the
-// layout at once, shown or not. A control never laid out waits to be shown.
+void UserControl1::resize(int w, int h)
+{
+    resize(QSize(w, h));
+}
+
+void UserControl1::resize(const QSize& size)
+{
+    QWidget::resize(size);
+    layOutNewSize();
+}
+
+void UserControl1::setGeometry(int x, int y, int w, int h)
+{
+    setGeometry(QRect(x, y, w, h));
+}
+
+void UserControl1::setGeometry(const QRect& rect)
+{
+    QWidget::setGeometry(rect);
+    layOutNewSize();
+}
+
+void UserControl1::layOutNewSize()
+{
+    if (size() != m_laidOutSize)
+        UserControl_Resize();
+}
+
+// A size set on the plain widget while the control was hidden (by a layout, say) is
+// laid out before anything else reaches the control, as if inside that write.
 void UserControl1::settleSize()
 {
     if (m_laidOutSize.isValid() && size() != m_laidOutSize)
@@ -236,8 +263,6 @@ void UserControl1::setControlHeight(double twips)
     if (pixels == height())
         return;
     resize(width(), pixels);
-    if (size() != m_laidOutSize)
-        UserControl_Resize();
 }
 
 namespace {
