@@ -64,6 +64,7 @@ TEST_F(Look, TheLogSaysWhoseEachRowIs)
     // too; the rest is the computer's, by the colour of each line. Every
     // row stands where it is drawn, under the one before it, and is found there: the
     // rows' fractions of a pixel do not add up.
+    const QWidget* canvas = list->findChild<QWidget*>(QStringLiteral("Picture1"));
     int bottom = -1;
     for (int i = 0; i < log->childCount(); ++i) {
         QAccessibleInterface* row = log->child(i);
@@ -76,6 +77,7 @@ TEST_F(Look, TheLogSaysWhoseEachRowIs)
         EXPECT_EQ(row->text(QAccessible::Name).chopped(whose.size()), text);
         const QRect where = row->rect();
         ASSERT_FALSE(where.isEmpty()) << "row " << i;
+        EXPECT_EQ(where.left(), canvas->mapToGlobal(QPoint(0, 0)).x()) << "row " << i;
         EXPECT_EQ(log->childAt(where.center().x(), where.center().y()), row);
         EXPECT_EQ(where.top(), bottom < 0 ? where.top() : bottom + 1) << "row " << i;
         bottom = where.bottom();
