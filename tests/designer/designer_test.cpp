@@ -1,3 +1,4 @@
+#include "moveslist/listerror.h"
 #include "moveslist/usercontrol1.h"
 
 #include <QFile>
@@ -49,6 +50,11 @@ TEST(DesignerPlugin, OffersTheListWithItsStoredDefaults)
     made->setProperty("RowHeight", 0);
     made->setProperty("BorderStyle", 2);
     expectSettings(*made, {{"RowHeight", 300}, {"BorderStyle", 1}});
+    // A row height kept from a refused write too large for a whole number reads as 0.
+    auto* list = qobject_cast<UserControl1*>(made.get());
+    ASSERT_NE(list, nullptr);
+    EXPECT_THROW(list->RowHeight(1e10), ListError);
+    EXPECT_EQ(made->property("RowHeight"), 0);
 }
 
 TEST(DesignerPlugin, AFormSavedWithTheListLoadsWithItsSettings)
